@@ -1,0 +1,129 @@
+#include "platform/Conversions.h"
+
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include "platform/RuntimeError.h"
+
+namespace corvane {
+namespace {
+
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+std::size_t DigitsFrom(std::string_view text, std::size_t at) {
+  while (at < text.size() && IsDigit(text[at])) ++at;
+  return at;
+}
+
+// Length of the longest prefix that is a number: sign, digits with at most one point, exponent. 0 when there is none.
+std::size_t NumberLength(std::string_view text) {
+  std::size_t at = 0;
+  if (at < text.size() && (text[at] == '+' || text[at] == '-')) ++at;
+  const std::size_t whole = at;
+  at = DigitsFrom(text, at);
+  std::size_t digits = at - whole;
+  if (at < text.size() && text[at] == '.') {
+    const std::size_t fraction = DigitsFrom(text, at + 1);
+    digits += fraction - at - 1;
+    at = fraction;
+  }
+  if (digits == 0) return 0;
+  if (at < text.size() && (text[at] == 'e' || text[at] == 'E')) {
+    std::size_t exponent = at + 1;
+    if (exponent < text.size() && (text[exponent] == '+' || text[exponent] == '-')) ++exponent;
+    const std::size_t end = DigitsFrom(text, exponent);
+    if (end > exponent) at = end;
+  }
+  return at;
+}
+
+double ToDouble(std::string_view number) {
+  if (!number.empty() && number.front() == '+') number.remove_prefix(1);
+  double value = 0;
+  const auto [end, status] = std::from_chars(number.data(), number.data() + number.size(), value);
+  if (status != std::errc::result_out_of_range) return value;
+  const bool tiny = number.find("e-") != number.npos || number.find("E-") != number.npos;
+  return tiny ? 0.0 : (number.front() == '-' ? -1 : 1) * std::numeric_limits<double>::infinity();
+}
+
+// The Latin-1 letters of UTF-8 have the lead byte C3; their capitals lie 20 hexadecimal below. The division sign is none.
+char UpperByte(char c, char before) {
+  if (c >= 'a' && c <= 'z') return static_cast<char>(c - 'a' + 'A');
+  const auto byte = static_cast<unsigned char>(c);
+  if (static_cast<unsigned char>(before) == 0xC3 && byte >= 0xA0 && byte <= 0xBE && byte != 0xB7)
+    return static_cast<char>(byte - 0x20);
+  return c;
+}
+
+std::string_view TrimView(std::string_view text) {
+  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
+  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
+  return text;
+}
+
+}  // namespace
+
+std::optional<double> ParseNumber(std::string_view text) {
+  const std::string_view number = TrimView(text);
+  if (number.empty() || NumberLength(number) != number.size()) return std::nullopt;
+  return ToDouble(number);
+}
+
+bool IsNumeric(std::string_view text) { return ParseNumber(text).has_value(); }
+
+std::int32_t RoundToInt32(double number) {
+  const double rounded = std::nearbyint(number);
+  if (!(rounded >= -2147483648.0 && rounded <= 2147483647.0)) throw RuntimeError(errors::Overflow, "Overflow");
+  return static_cast<std::int32_t>(rounded);
+}
+
+std::int32_t TextToInt32(std::string_view text) {
+  const auto number = ParseNumber(text);
+  if (!number) throw RuntimeError(errors::TypeMismatch, "Type mismatch");
+  return RoundToInt32(*number);
+}
+
+double Val(std::string_view text) {
+  std::string packed;
+  for (const char c : text)
+    if (c != ' ' && c != '\t' && c != '\n' && c != '\r') packed += c;
+  const std::size_t length = NumberLength(packed);
+  return length == 0 ? 0 : ToDouble(std::string_view(packed).substr(0, length));
+}
+
+std::string UpperCase(std::string_view text) {
+  std::string upper(text);
+  char before = 0;
+  for (char& c : upper) {
+    const char original = c;
+    c = UpperByte(c, before);
+    before = original;
+  }
+  return upper;
+}
+
+bool SameText(std::string_view a, std::string_view b) { return a.size() == b.size() && CompareText(a, b) == 0; }
+
+int CompareText(std::string_view a, std::string_view b) {
+  const std::size_t shorter = std::min(a.size(), b.size());
+  char beforeA = 0, beforeB = 0;
+  for (std::size_t i = 0; i < shorter; ++i) {
+    const auto left = static_cast<unsigned char>(UpperByte(a[i], beforeA));
+    const auto right = static_cast<unsigned char>(UpperByte(b[i], beforeB));
+    if (left != right) return left < right ? -1 : 1;
+    beforeA = a[i];
+    beforeB = b[i];
+  }
+  return a.size() == b.size() ? 0 : (a.size() < b.size() ? -1 : 1);
+}
+
+std::string Trim(std::string_view text) { return std::string(TrimView(text)); }
+
+std::string PadZero(long long number, int width) {
+  std::string digits = std::to_string(number < 0 ? -number : number);
+  if (static_cast<int>(digits.size()) < width) digits.insert(0, static_cast<std::size_t>(width) - digits.size(), '0');
+  return number < 0 ? "-" + digits : digits;
+}
+
+}  // namespace corvane

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+namespace corvane {
+
+class ChannelReader;
+class DataProvider;
+class DirectoryApi;
+class DirectoryProvider;
+class EventLogs;
+class Files;
+class Launcher;
+class NetX;
+class Ping;
+class ProfileFiles;
+class RegistryStore;
+class ServiceManager;
+class SingleInstance;
+class System;
+class UnitQuery;
+namespace ui {
+class UiHost;
+}
+
+/// Every port the console may use, as the program or a test has chosen them. The ports outlive the console.
+struct Platform {
+  corvane::System& System;
+  corvane::Files& Files;
+  RegistryStore& Registry;
+  ProfileFiles& Profiles;
+  DataProvider& Data;
+  ServiceManager& Services;
+  corvane::EventLogs& EventLogs;
+  corvane::NetX& NetX;
+  corvane::DirectoryProvider& Directory;
+  UnitQuery& Units;
+  corvane::Ping& Ping;
+  corvane::Launcher& Launcher;
+  SingleInstance& Instance;
+  ui::UiHost& Ui;
+  /// These two exist only on systems of their version; making one may raise `CannotCreateObject`.
+  std::function<std::unique_ptr<DirectoryApi>()> CreateDirectoryApi;
+  std::function<std::unique_ptr<ChannelReader>()> CreateChannelReader;
+};
+
+}  // namespace corvane

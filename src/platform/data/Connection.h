@@ -1,0 +1,49 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "platform/data/Recordset.h"
+
+namespace corvane {
+
+enum class CursorLocation { Server = 2, Client = 3 };
+
+/// A connection to a database. Failures are raised as `RuntimeError` with the numbers of the data layer.
+class Connection {
+ public:
+  virtual ~Connection() = default;
+
+  corvane::CursorLocation CursorLocation = corvane::CursorLocation::Server;
+
+  /// Opens by a string such as `Provider=Microsoft.Jet.OLEDB.4.0;Data Source=C:\Corvane\corvane.mdb;`.
+  virtual void Open(const std::string& connectionString) = 0;
+  virtual void Close() = 0;
+  virtual ObjectState State() const = 0;
+
+  /// Runs one statement. A SELECT gives its rows, anything else a closed recordset.
+  virtual std::unique_ptr<Recordset> Execute(const std::string& sql) = 0;
+
+  virtual void BeginTrans() = 0;
+  virtual void CommitTrans() = 0;
+  virtual void RollbackTrans() = 0;
+};
+
+/// Creates file-based databases.
+class Catalog {
+ public:
+  virtual ~Catalog() = default;
+  /// Makes an empty database at the string's `Data Source`. Raises on failure; never replaces a file that is there.
+  virtual void Create(const std::string& connectionString) = 0;
+};
+
+/// Makes the objects of the data layer.
+class DataProvider {
+ public:
+  virtual ~DataProvider() = default;
+  virtual std::unique_ptr<Connection> NewConnection() = 0;
+  virtual std::unique_ptr<Recordset> NewRecordset() = 0;
+  virtual std::unique_ptr<Catalog> NewCatalog() = 0;
+};
+
+}  // namespace corvane
