@@ -47,7 +47,8 @@ double ToDouble(std::string_view number) {
   return tiny ? 0.0 : (number.front() == '-' ? -1 : 1) * std::numeric_limits<double>::infinity();
 }
 
-// The Latin-1 letters of UTF-8 have the lead byte C3; their capitals lie 20 hexadecimal below. The division sign is none.
+// The Latin-1 letters of UTF-8 have the lead byte C3; their capitals lie 20 hexadecimal below. The division sign is
+// none.
 char UpperByte(char c, char before) {
   if (c >= 'a' && c <= 'z') return static_cast<char>(c - 'a' + 'A');
   const auto byte = static_cast<unsigned char>(c);

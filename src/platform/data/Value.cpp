@@ -35,24 +35,24 @@ std::string ToText(const Value& value) {
 }
 
 std::int32_t ToNumber(const Value& value) {
-  return std::visit(Overloaded{[](std::monostate) -> std::int32_t { InvalidNull(); },
-                               [](std::int64_t number) { return RoundToInt32(static_cast<double>(number)); },
-                               [](double number) { return RoundToInt32(number); },
-                               [](bool flag) { return flag ? -1 : 0; },
-                               [](const std::string& text) { return TextToInt32(text); }},
-                    value);
+  return std::visit(
+      Overloaded{[](std::monostate) -> std::int32_t { InvalidNull(); },
+                 [](std::int64_t number) { return RoundToInt32(static_cast<double>(number)); },
+                 [](double number) { return RoundToInt32(number); }, [](bool flag) { return flag ? -1 : 0; },
+                 [](const std::string& text) { return TextToInt32(text); }},
+      value);
 }
 
 bool ToBoolean(const Value& value) {
-  return std::visit(Overloaded{[](std::monostate) -> bool { InvalidNull(); },
-                               [](std::int64_t number) { return number != 0; },
-                               [](double number) { return number != 0; }, [](bool flag) { return flag; },
-                               [](const std::string& text) {
-                                 if (SameText(text, "True")) return true;
-                                 if (SameText(text, "False")) return false;
-                                 return TextToInt32(text) != 0;
-                               }},
-                    value);
+  return std::visit(
+      Overloaded{[](std::monostate) -> bool { InvalidNull(); }, [](std::int64_t number) { return number != 0; },
+                 [](double number) { return number != 0; }, [](bool flag) { return flag; },
+                 [](const std::string& text) {
+                   if (SameText(text, "True")) return true;
+                   if (SameText(text, "False")) return false;
+                   return TextToInt32(text) != 0;
+                 }},
+      value);
 }
 
 }  // namespace corvane

@@ -1,0 +1,57 @@
+#include "platform/ui/Form.h"
+
+#include "platform/ui/SimpleControls.h"
+#include "platform/ui/UiHost.h"
+
+namespace corvane::ui {
+
+Control::Control(Form& form, std::string_view name, ControlKind kind) : form_(form), name_(name), kind_(kind) {
+  form.controls_.push_back(this);
+}
+
+Form::Form(UiHost& host, std::string_view name) : host_(host), name_(name) {}
+
+bool Form::Load() {
+  if (!loaded_) {
+    loaded_ = true;
+    accepted_ = Form_Load();
+  }
+  return accepted_;
+}
+
+void Form::ShowModal() {
+  if (Load() && !unloaded_) host_.ShowModal(*this);
+}
+
+void Form::Show() {
+  if (Load() && !unloaded_) host_.Show(*this);
+}
+
+void Form::Unload() {
+  if (unloaded_) return;
+  unloaded_ = true;
+  Form_Unload();
+}
+
+void Form::CloseBox() {
+  CommandButton* cancel = CancelButton();
+  if (cancel == nullptr)
+    Unload();
+  else if (cancel->Enabled && cancel->Click)
+    cancel->Click();
+}
+
+CommandButton* Form::FindButton(bool CommandButton::*role) const {
+  for (Control* control : controls_) {
+    if (control->Kind() != ControlKind::CommandButton || !control->Visible) continue;
+    auto* button = static_cast<CommandButton*>(control);
+    if (button->*role) return button;
+  }
+  return nullptr;
+}
+
+CommandButton* Form::DefaultButton() const { return FindButton(&CommandButton::Default); }
+
+CommandButton* Form::CancelButton() const { return FindButton(&CommandButton::Cancel); }
+
+}  // namespace corvane::ui
