@@ -1,0 +1,31 @@
+#pragma once
+
+#include <unistd.h>
+
+#include <utility>
+
+namespace corvane {
+
+/// Owns a file descriptor and closes it; -1 is none.
+class Descriptor {
+ public:
+  explicit Descriptor(int number = -1) : number_(number) {}
+  Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+  Descriptor& operator=(Descriptor&& other) noexcept {
+    std::swap(number_, other.number_);
+    return *this;
+  }
+  ~Descriptor() {
+    if (number_ >= 0) ::close(number_);
+  }
+
+  int Get() const { return number_; }
+  /// Gives the number away; the caller closes it.
+  int Release() { return std::exchange(number_, -1); }
+  explicit operator bool() const { return number_ >= 0; }
+
+ private:
+  int number_;
+};
+
+}  // namespace corvane
