@@ -1,0 +1,58 @@
+#include "adapters/lab/LabModel.h"
+
+#include <algorithm>
+
+#include "platform/Conversions.h"
+#include "platform/ServiceManager.h"
+
+namespace corvane {
+namespace {
+
+template <class Items, class Test>
+auto FindIn(const Items& items, Test test) -> const typename Items::value_type* {
+  const auto found = std::find_if(items.begin(), items.end(), test);
+  return found == items.end() ? nullptr : &*found;
+}
+
+template <class Items>
+auto FindByName(const Items& items, const std::string& name) {
+  return FindIn(items, [&](const auto& item) { return SameText(item.Name, name); });
+}
+
+}  // namespace
+
+const LabLog* LabComputer::FindLog(const std::string& name) const { return FindByName(Logs, name); }
+
+std::uint32_t LabService::StateAt(std::int64_t now) const {
+  if (Until == 0 || now < Until) return State;
+  return State == service::StartPending ? service::Running : service::Stopped;
+}
+
+const LabComputer* LabModel::FindComputer(const std::string& name) const {
+  if (name.empty()) return FindByName(Computers, LocalComputer);
+  const std::string plain = name.starts_with("\\\\") ? name.substr(2) : name;
+  if (const LabComputer* found = FindByName(Computers, plain)) return found;
+  return FindIn(Computers, [&](const LabComputer& computer) {
+    const LabDomain* domain = FindDomain(computer.Domain);
+    return computer.Address == plain ||
+           (!domain->DnsName.empty() && SameText(computer.Name + "." + domain->DnsName, plain));
+  });
+}
+
+const LabDomain* LabModel::FindDomain(const std::string& name) const {
+  return FindIn(Domains, [&](const LabDomain& domain) {
+    return SameText(domain.Name, name) || (!domain.DnsName.empty() && SameText(domain.DnsName, name));
+  });
+}
+
+const LabService* LabModel::FindService(const std::string& name) const { return FindByName(Services, name); }
+
+const LabComputer* LabModel::FindController(const std::string& domain) const {
+  const LabDomain* wanted = FindDomain(domain);
+  if (!wanted) return nullptr;
+  return FindIn(Computers, [&](const LabComputer& computer) {
+    return computer.Role == LabRole::Controller && computer.State != LabState::Off && computer.Domain == wanted->Name;
+  });
+}
+
+}  // namespace corvane

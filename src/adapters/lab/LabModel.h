@@ -1,0 +1,98 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace corvane {
+
+/// An event log of a lab computer.
+struct LabLog {
+  std::string Name;
+  /// Number of the oldest record, 0 in an empty log, and how many records there are.
+  std::uint32_t Oldest = 0, Count = 0;
+  /// Largest size in bytes. Age in seconds from which a record may be overwritten: 0 any, 4294967295 none.
+  std::uint32_t MaxSize = 0, Retention = 0;
+  /// Path as that computer's registry shows it; empty for a log that is known there but switched off.
+  std::string File;
+};
+
+enum class LabRole { Member, Controller };
+enum class LabState { On, Off, Refusing };
+
+/// A computer of the lab network.
+struct LabComputer {
+  std::string Name;
+  /// Flat name of its domain or workgroup.
+  std::string Domain;
+  LabRole Role = LabRole::Member;
+  LabState State = LabState::On;
+  /// The system's name as the computer's registry shows it, and its version.
+  std::string Product;
+  int Major = 0, Minor = 0;
+  std::string Address;
+  /// How long it takes to answer any request, in milliseconds.
+  int DelayMs = 0;
+  bool AnswersPing = true;
+  /// Distinguished name of the unit it stands in (RFC 4514); empty without a directory.
+  std::string Unit;
+  std::vector<LabLog> Logs;
+
+  /// The log of that name, or nothing.
+  const LabLog* FindLog(const std::string& name) const;
+};
+
+/// An organizational unit or container of a domain's directory.
+struct LabUnit {
+  /// The names down to it, parted by `/`.
+  std::string Path;
+  std::string DistinguishedName;
+};
+
+/// A domain or a workgroup.
+struct LabDomain {
+  std::string Name;
+  /// Empty for a workgroup and for a domain without a directory.
+  std::string DnsName;
+  bool IsWorkgroup = false;
+  /// Flat names of the domains that it trusts directly.
+  std::vector<std::string> Trusts;
+  /// Distinguished name of the domain itself; empty without a directory.
+  std::string Root;
+  std::vector<LabUnit> Units;
+};
+
+/// A service of the local computer.
+struct LabService {
+  std::string Name;
+  /// One of the states of the service manager.
+  std::uint32_t State = 0;
+  /// When a pending state ends, in milliseconds since 1970; 0 for one that lasts.
+  std::int64_t Until = 0;
+  /// How long starting and stopping take, in milliseconds.
+  int StartMs = 0, StopMs = 0;
+  bool RefusesRead = false, RefusesControl = false;
+
+  /// The state at a moment in milliseconds since 1970.
+  std::uint32_t StateAt(std::int64_t now) const;
+};
+
+/// The whole lab network, as its file says.
+struct LabModel {
+  std::string LocalComputer, User;
+  /// How long a request waits for a computer that does not answer, in milliseconds.
+  int TimeoutMs = 0;
+  std::vector<LabDomain> Domains;
+  std::vector<LabComputer> Computers;
+  std::vector<LabService> Services;
+
+  /// By flat name, full DNS name or address, with or without leading `\\`; an empty name is the local computer.
+  const LabComputer* FindComputer(const std::string& name) const;
+  /// By flat or DNS name.
+  const LabDomain* FindDomain(const std::string& name) const;
+  const LabService* FindService(const std::string& name) const;
+  /// The first controller of the domain that is switched on.
+  const LabComputer* FindController(const std::string& domain) const;
+};
+
+}  // namespace corvane
