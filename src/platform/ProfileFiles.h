@@ -6,7 +6,8 @@
 namespace corvane {
 
 /// INI-style files, with the semantics of the classic profile calls: sections and keys match without regard to case,
-/// one pair of quotes around a value is dropped, a line that begins with `;` is a comment.
+/// one pair of quotes around a value is dropped, a line that begins with `;` is a comment. Texts are UTF-8; sizes and
+/// counts are in characters of the file.
 class ProfileFiles {
  public:
   virtual ~ProfileFiles() = default;

@@ -22,7 +22,7 @@ inline constexpr long NetworkPathNotFound = 53;
 inline constexpr long MoreData = 234;
 inline constexpr long NoMoreItems = 259;
 
-// Types of values. The bytes of a string are its ANSI text with the final zero; a number is 4 bytes, little-endian.
+// Types of values. The bytes of a string are its UTF-8 text with the final zero; a number is 4 bytes, little-endian.
 inline constexpr std::uint32_t String = 1;
 inline constexpr std::uint32_t ExpandString = 2;
 inline constexpr std::uint32_t Binary = 3;
