@@ -1,0 +1,76 @@
+#include "domains/CustomDomains.h"
+
+#include "core/PassOver.h"
+#include "core/PrivateProfile.h"
+#include "core/modMain.h"
+#include "platform/Conversions.h"
+#include "platform/Files.h"
+#include "platform/System.h"
+#include "platform/ui/ListControls.h"
+
+namespace corvane {
+namespace {
+
+std::string MappingFile(modMain& main) { return main.Platform.System.ProgramFolder() + "\\cdomain.ini"; }
+
+PrivateProfile OpenMappings(modMain& main) {
+  PrivateProfile profile(main.Platform.Profiles, main.Platform.Files);
+  profile.FileName = MappingFile(main);
+  std::uintmax_t length = 0;
+  PassOver([&] { length = main.Platform.Files.Length(profile.FileName); });
+  if (length == 0) {
+    profile.CreateINIFile();
+    profile.WriteString("General", "NumComputers", "0");
+  }
+  return profile;
+}
+
+// Calls `visit(computer, domain)` for each mapping of the file; a missing or malformed line is passed over.
+void ForEachMapping(modMain& main, const std::function<void(const std::string&, const std::string&)>& visit) {
+  PrivateProfile profile = OpenMappings(main);
+  int count = 0;
+  profile.GetIntValue("General", "NumComputers", count);
+  for (int i = 1; i <= count; ++i) {
+    std::string line;
+    if (!profile.GetStringValue("Computers", "Computer" + std::to_string(i), line)) continue;
+    const std::size_t bar = line.find('|');
+    if (bar == std::string::npos) continue;
+    const std::string behind = line.substr(bar + 1);
+    visit(line.substr(0, bar), behind.substr(0, behind.find('|')));
+  }
+}
+
+void RemoveCustomEntries(ui::ComboBox& box) {
+  for (int i = box.Count() - 1; i >= 0; --i)
+    if (box[i].find("CUSTOM:") != std::string::npos) box.RemoveItem(i);
+}
+
+bool Holds(const ui::ComboBox& box, const std::string& text) {
+  for (const std::string& entry : box.All())
+    if (SameText(entry, text)) return true;
+  return false;
+}
+
+}  // namespace
+
+bool IsCustomDomain(std::string_view domain) { return domain.find(CustomPrefix) != std::string_view::npos; }
+
+void LoadCustomDomains(modMain& main, ui::ComboBox& box) {
+  const bool enabled = box.Enabled;
+  box.Enabled = false;
+  RemoveCustomEntries(box);
+  box.Enabled = enabled;
+  ForEachMapping(main, [&](const std::string&, const std::string& domain) {
+    const std::string entry = std::string(CustomPrefix) + UpperCase(domain);
+    if (!Holds(box, entry)) box.AddItem(entry);
+  });
+}
+
+void LoadCustomDomainComputers(modMain& main, std::string_view domain, ui::ComboBox& box) {
+  const std::string wanted(IsCustomDomain(domain) ? domain.substr(CustomPrefix.size()) : domain);
+  ForEachMapping(main, [&](const std::string& computer, const std::string& mapped) {
+    if (SameText(mapped, wanted)) box.AddItem(UpperCase(computer));
+  });
+}
+
+}  // namespace corvane
