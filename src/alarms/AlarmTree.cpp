@@ -1,0 +1,113 @@
+#include "alarms/AlarmTree.h"
+
+#include <vector>
+
+#include "core/SqlText.h"
+#include "core/modMain.h"
+
+namespace corvane {
+namespace {
+
+constexpr std::string_view OsPrefix = "OS\\";
+constexpr std::string_view LogTypePrefix = "LOGTYPE\\";
+constexpr std::string_view CategoryPrefix = "ALARMCAT\\";
+constexpr const char* DummySuffix = "\\DUMMYNODE";
+
+enum class Level { Os, LogType, Category, Alarm };
+
+// Keys are told apart by what they contain, in this order; "ALARM\" does not stand in "ALARMCAT\".
+Level LevelOf(std::string_view key) {
+  if (key.find(OsPrefix) != key.npos) return Level::Os;
+  if (key.find(LogTypePrefix) != key.npos) return Level::LogType;
+  if (key.find(CategoryPrefix) != key.npos) return Level::Category;
+  return Level::Alarm;
+}
+
+// OS classes are single digits: keys are read by position.
+std::string OsIndexOfLogType(std::string_view key) { return std::string(key.substr(LogTypePrefix.size(), 1)); }
+std::string OsIndexOfCategory(std::string_view key) { return std::string(key.substr(CategoryPrefix.size(), 1)); }
+std::string IndexOfCategory(std::string_view key) { return std::string(key.substr(CategoryPrefix.size() + 2)); }
+
+template <class Visit>
+void ForEachRow(modMain& main, const std::string& sql, Visit visit) {
+  const auto rows = main.Platform.Data.NewRecordset();
+  rows->Open(sql, *main.ConfigConnection, CursorType::ForwardOnly, LockType::ReadOnly);
+  for (; !rows->Eof(); rows->MoveNext()) visit(*rows);
+  rows->Close();
+}
+
+}  // namespace
+
+std::string GetLastKeyPart(std::string_view key) { return std::string(key.substr(key.rfind('\\') + 1)); }
+
+void AlarmTree::FillOSNodes() {
+  tree_.Clear();
+  ForEachRow(main_, "SELECT * FROM OsTypes ORDER BY OSName ASC", [&](Recordset& row) {
+    AddBranch(0, std::string(OsPrefix) + ToText(row.Field("Index")), ToText(row.Field("OSName")), alarmimage::Os);
+  });
+}
+
+void AlarmTree::Expand(ui::NodeId node) {
+  const std::string key = tree_.Node(node).Key;
+  const Level level = LevelOf(key);
+  if (level == Level::Alarm) return;
+  if (const ui::NodeId dummy = tree_.Find(key + DummySuffix); dummy != 0) tree_.Remove(dummy);
+  if (level == Level::Os) FillLogTypeNodes(node);
+  if (level == Level::LogType) FillCategoryNodes(node, OsIndexOfLogType(key));
+  if (level == Level::Category) FillAlarmNodes(node, OsIndexOfCategory(key));
+}
+
+void AlarmTree::Collapse(ui::NodeId node) {
+  const std::string key = tree_.Node(node).Key;
+  if (LevelOf(key) == Level::Alarm) return;
+  // The dummy comes first: a branch left without children for a moment would lose its expander.
+  const std::vector<ui::NodeId> children = tree_.ChildrenOf(node);
+  AddDummy(node);
+  const ui::NodeId dummy = tree_.Find(key + DummySuffix);
+  for (const ui::NodeId child : children)
+    if (child != dummy) tree_.Remove(child);
+}
+
+void AlarmTree::FillLogTypeNodes(ui::NodeId osNode) {
+  const std::string osIndex = tree_.Node(osNode).Key.substr(OsPrefix.size());
+  ForEachRow(main_, "SELECT * FROM LogTypes ORDER BY Name ASC", [&](Recordset& row) {
+    const int logType = ToNumber(row.Field("Index"));
+    // Windows NT 4.0 knows the first three logs alone.
+    if (osIndex == "1" && logType > 3) return;
+    AddBranch(osNode, std::string(LogTypePrefix) + osIndex + "\\" + std::to_string(logType), ToText(row.Field("Name")),
+              alarmimage::LogType);
+  });
+}
+
+void AlarmTree::FillCategoryNodes(ui::NodeId logTypeNode, const std::string& osIndex) {
+  const std::string logType = GetLastKeyPart(tree_.Node(logTypeNode).Key);
+  const std::string sql =
+      "SELECT * FROM AlarmCategories WHERE LogType = " + logType + " AND OS = " + osIndex + " ORDER BY Name ASC";
+  ForEachRow(main_, sql, [&](Recordset& row) {
+    AddBranch(logTypeNode, std::string(CategoryPrefix) + osIndex + "\\" + ToText(row.Field("Index")),
+              NullToEmpty(row.Field("Name")), alarmimage::Category);
+  });
+}
+
+void AlarmTree::FillAlarmNodes(ui::NodeId categoryNode, const std::string& osIndex) {
+  const std::string category = IndexOfCategory(tree_.Node(categoryNode).Key);
+  const std::string sql = "SELECT * FROM Alarms WHERE AlarmCategory = " + QuoteSqlText(category) + " ORDER BY Name ASC";
+  ForEachRow(main_, sql, [&](Recordset& row) {
+    const std::string name = NullToEmpty(row.Field("Name"));
+    const std::string key = "ALARM\\" + osIndex + "\\" + category + "\\" + name;
+    if (tree_.Find(key) == 0) tree_.Add(categoryNode, key, name, alarmimage::Alarm);
+  });
+}
+
+// A branch that was filled by code and is opened by the user is filled again: what stands already stays.
+void AlarmTree::AddBranch(ui::NodeId parent, const std::string& key, const std::string& text, const char* image) {
+  if (tree_.Find(key) != 0) return;
+  AddDummy(tree_.Add(parent, key, text, image));
+}
+
+void AlarmTree::AddDummy(ui::NodeId node) {
+  const std::string key = tree_.Node(node).Key + DummySuffix;
+  if (tree_.Find(key) == 0) tree_.Add(node, key, "DummyNode", "");
+}
+
+}  // namespace corvane
