@@ -1,0 +1,161 @@
+#include "logs/AlarmAssignment.h"
+
+#include <vector>
+
+#include "core/PassOver.h"
+#include "core/SqlText.h"
+#include "core/modMain.h"
+#include "logs/AssignmentLayout.h"
+#include "platform/ui/ListView.h"
+#include "platform/ui/SimpleControls.h"
+
+namespace corvane {
+namespace {
+
+template <class Visit>
+void ForEachRow(modMain& main, const std::string& sql, CursorType cursor, LockType lock, Visit visit) {
+  const auto rows = main.Platform.Data.NewRecordset();
+  rows->Open(sql, *main.ConfigConnection, cursor, lock);
+  for (; !rows->Eof(); rows->MoveNext()) PassOver([&] { visit(*rows); });
+}
+
+}  // namespace
+
+AlarmAssignment::AlarmAssignment(modMain& main, const Controls& controls, const AttachmentTables& tables,
+                                 bool& duplicateReported)
+    : main_(main),
+      controls_(controls),
+      tables_(tables),
+      catalogue_(main, controls.Catalogue),
+      chosen_(main, controls.Chosen, duplicateReported) {
+  controls_.Bundles.Columns = {{"Name", assignment::WideColumn, false}};
+  controls_.Bundles.SetMultiSelect(false);
+  controls_.Catalogue.DragTargets = {&controls_.Chosen};
+  controls_.Bundles.DragTargets = {&controls_.Chosen};
+  SetAvailableWide(true);
+  WireHandlers();
+}
+
+void AlarmAssignment::WireHandlers() {
+  controls_.Catalogue.GotFocus = [this] {
+    treeUsedLast_ = true;
+    SetAvailableWide(true);
+  };
+  controls_.Bundles.GotFocus = [this] {
+    treeUsedLast_ = false;
+    SetAvailableWide(true);
+  };
+  controls_.Chosen.GotFocus = [this] { SetAvailableWide(false); };
+  controls_.Catalogue.MouseMove = [this] { SetAvailableWide(true); };
+  controls_.Bundles.MouseMove = [this] { SetAvailableWide(true); };
+  controls_.Chosen.MouseMove = [this] { SetAvailableWide(false); };
+  controls_.Catalogue.Expand = [this](ui::NodeId node) { PassOver([&] { catalogue_.Expand(node); }); };
+  controls_.Catalogue.Collapse = [this](ui::NodeId node) { PassOver([&] { catalogue_.Collapse(node); }); };
+  controls_.Chosen.NodeClick = [this](ui::NodeId node) { controls_.Remove.Enabled = chosen_.MayRemove(node); };
+  controls_.Chosen.DragDrop = [this] { AddSelected(); };
+}
+
+void AlarmAssignment::SetAvailableWide(bool wide) {
+  controls_.Catalogue.Width = controls_.Bundles.Width = wide ? assignment::WideAvailable : assignment::Narrow;
+  controls_.Chosen.Width = wide ? assignment::Narrow : assignment::WideChosen;
+  controls_.Bundles.Columns.front().Width = wide ? assignment::WideColumn : assignment::NarrowColumn;
+}
+
+void AlarmAssignment::FillAvailable() {
+  PassOver([&] { catalogue_.FillOSNodes(); });
+  PassOver([&] { LoadBundleList(); });
+  controls_.Chosen.Clear();
+}
+
+void AlarmAssignment::LoadBundleList() {
+  controls_.Bundles.Clear();
+  ForEachRow(main_, "SELECT * FROM AlarmGroups ORDER BY Name ASC", CursorType::ForwardOnly, LockType::ReadOnly,
+             [&](Recordset& row) {
+               ui::ListItem item;
+               item.Key = "GROUP\\" + ToText(row.Field("Index"));
+               item.Text = NullToEmpty(row.Field("Name"));
+               item.Icon = alarmimage::Bundle;
+               controls_.Bundles.Add(std::move(item));
+             });
+}
+
+// Read by the log's key alone, without its domain.
+void AlarmAssignment::LoadAttached(const std::string& idName) {
+  PassOver([&] { LoadAlarms(idName); });
+  PassOver([&] { LoadBundles(idName); });
+}
+
+void AlarmAssignment::LoadAlarms(const std::string& idName) {
+  Connection& connection = *main_.ConfigConnection;
+  const std::string attached = std::string("SELECT * FROM ") + tables_.Singles + " WHERE IDName = '" + idName + "'";
+  ForEachRow(main_, attached, CursorType::Dynamic, LockType::Optimistic, [&](Recordset& row) {
+    const auto alarm = main_.Platform.Data.NewRecordset();
+    alarm->Open("SELECT * FROM Alarms WHERE AlarmID = " + ToText(row.Field("AlarmID")), connection,
+                CursorType::ForwardOnly, LockType::ReadOnly);
+    const auto category = main_.Platform.Data.NewRecordset();
+    category->Open(
+        "SELECT * FROM AlarmCategories WHERE Index = " + QuoteSqlText(NullToEmpty(alarm->Field("AlarmCategory"))),
+        connection, CursorType::ForwardOnly, LockType::ReadOnly);
+    chosen_.AddAlarmNode(NullToEmpty(alarm->Field("Name")), OsNameOf(NullToEmpty(category->Field("OS"))));
+  });
+}
+
+void AlarmAssignment::LoadBundles(const std::string& idName) {
+  const std::string attached = std::string("SELECT * FROM ") + tables_.Bundles + " WHERE IDName = '" + idName + "'";
+  ForEachRow(main_, attached, CursorType::Dynamic, LockType::Optimistic, [&](Recordset& row) {
+    const std::string id = ToText(row.Field("AlarmGroupID"));
+    const auto bundle = main_.Platform.Data.NewRecordset();
+    bundle->Open("SELECT * FROM AlarmGroups WHERE Index = " + id, *main_.ConfigConnection, CursorType::ForwardOnly,
+                 LockType::ReadOnly);
+    chosen_.AddBundleNode(NullToEmpty(bundle->Field("Name")), id);
+  });
+}
+
+void AlarmAssignment::AddSelected() {
+  PassOver([&] {
+    const ui::NodeId node = controls_.Catalogue.Selected();
+    if (!treeUsedLast_)
+      AddBundleRow();
+    else if (controls_.Catalogue.Node(node).Image == alarmimage::Category)
+      AddCategory(node);
+    else
+      AddAlarm(node);
+  });
+}
+
+void AlarmAssignment::AddBundleRow() {
+  const ui::ListItem& row = controls_.Bundles.Item(controls_.Bundles.SelectedRow());
+  chosen_.AddBundleNode(row.Text, chosenkey::BundleId(row.Key));
+}
+
+void AlarmAssignment::AddCategory(ui::NodeId category) {
+  PassOver([&] { catalogue_.Expand(category); });
+  const std::vector<ui::NodeId> alarms = controls_.Catalogue.ChildrenOf(category);
+  for (const ui::NodeId alarm : alarms) PassOver([&] { AddAlarm(alarm); });
+}
+
+// The OS class stands three levels above an alarm; a node further up has nothing there and adds nothing.
+void AlarmAssignment::AddAlarm(ui::NodeId node) {
+  const ui::TreeView& tree = controls_.Catalogue;
+  const ui::NodeId logType = tree.Node(tree.Node(node).Parent).Parent;
+  const std::string osName = tree.Node(tree.Node(logType).Parent).Text;
+  chosen_.AddAlarmNode(tree.Node(node).Text, osName);
+}
+
+void AlarmAssignment::RemoveSelected() { chosen_.RemoveSelected(); }
+
+void AlarmAssignment::Save(AttachmentRows& rows) const {
+  std::vector<std::string> singles;
+  for (const ui::NodeId id : controls_.Chosen.InTreeOrder()) {
+    const ui::TreeNode& node = controls_.Chosen.Node(id);
+    if (chosenkey::IsMember(node.Key)) continue;
+    if (chosenkey::IsBundle(node.Key))
+      rows.InsertBundle(tables_, chosenkey::BundleId(node.Key));
+    else
+      singles.push_back(rows.FindAlarmID(node.Text, chosenkey::CategoryIndex(node.Key)));
+  }
+  for (const std::string& alarm : singles)
+    if (!rows.InAttachedBundle(tables_, alarm)) rows.InsertAlarm(tables_, alarm);
+}
+
+}  // namespace corvane

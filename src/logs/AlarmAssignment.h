@@ -1,0 +1,58 @@
+#pragma once
+
+#include "alarms/AlarmTree.h"
+#include "logs/AttachmentRows.h"
+#include "logs/ChosenTree.h"
+
+namespace corvane::ui {
+struct CommandButton;
+class ListView;
+}  // namespace corvane::ui
+
+namespace corvane {
+
+/// One tab of alarms or ignore events: the catalogue and the bundles on one side, what is chosen on the other, and the
+/// two buttons between them. The controls belong to the form.
+class AlarmAssignment {
+ public:
+  struct Controls {
+    ui::TreeView& Catalogue;
+    ui::ListView& Bundles;
+    ui::TreeView& Chosen;
+    ui::CommandButton& Add;
+    ui::CommandButton& Remove;
+  };
+
+  AlarmAssignment(modMain& main, const Controls& controls, const AttachmentTables& tables, bool& duplicateReported);
+
+  /// Fills the catalogue with its first level and the list of bundles, and empties the chosen side.
+  void FillAvailable();
+  /// Adds what is attached to a log: single alarms first, then bundles. Rows that name nothing any more add nothing.
+  void LoadAttached(const std::string& idName);
+  /// Writes what is chosen: every bundle, then each single alarm that no attached bundle holds.
+  void Save(AttachmentRows& rows) const;
+
+  /// The handlers of the two buttons.
+  void AddSelected();
+  void RemoveSelected();
+
+ private:
+  void WireHandlers();
+  void LoadBundleList();
+  void LoadAlarms(const std::string& idName);
+  void LoadBundles(const std::string& idName);
+  void AddBundleRow();
+  void AddCategory(ui::NodeId category);
+  void AddAlarm(ui::NodeId node);
+  void SetAvailableWide(bool wide);
+
+  modMain& main_;
+  Controls controls_;
+  AttachmentTables tables_;
+  AlarmTree catalogue_;
+  ChosenTree chosen_;
+  /// Which available side was used last, by focus: the tree, or else the list of bundles.
+  bool treeUsedLast_ = false;
+};
+
+}  // namespace corvane

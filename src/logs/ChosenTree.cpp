@@ -1,0 +1,115 @@
+#include "logs/ChosenTree.h"
+
+#include <algorithm>
+
+#include "alarms/AlarmTree.h"
+#include "core/PassOver.h"
+#include "core/SqlText.h"
+#include "core/modMain.h"
+#include "platform/Conversions.h"
+#include "platform/ui/ImageList.h"
+#include "platform/ui/UiHost.h"
+
+namespace corvane {
+namespace {
+
+/// Number of the single alarm's picture in the shared list.
+constexpr int SingleAlarmImage = 21;
+constexpr std::size_t DigitsAndUnderscore = 5;
+constexpr std::string_view MemberPrefix = "GROUP\\";
+constexpr std::string_view BundlePrefix = "GROUP";
+
+std::string OsSuffix(const std::string& osName) {
+  if (osName == "Windows NT 4.0") return "_1";
+  if (osName == "Windows 2000/XP/2003") return "_2";
+  return "_3";
+}
+
+bool LevelHoldsText(const ui::TreeView& tree, const std::vector<ui::NodeId>& level, std::size_t from,
+                    std::string_view text) {
+  for (std::size_t i = from; i < level.size(); ++i) {
+    const ui::TreeNode& node = tree.Node(level[i]);
+    if (LevelHoldsText(tree, node.Children, 0, text) || SameText(node.Text, text)) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+namespace chosenkey {
+
+bool IsMember(std::string_view key) { return key.starts_with(MemberPrefix); }
+bool IsBundle(std::string_view key) { return key.starts_with(BundlePrefix) && !IsMember(key); }
+std::string BundleId(std::string_view key) {
+  return std::string(key.substr(std::min(key.size(), MemberPrefix.size())));
+}
+std::string CategoryIndex(std::string_view key) {
+  return std::string(key.substr(std::min(key.size(), DigitsAndUnderscore)));
+}
+
+}  // namespace chosenkey
+
+std::string OsNameOf(std::string_view osNumber) {
+  if (osNumber == "1") return "Windows NT 4.0";
+  if (osNumber == "2") return "Windows 2000/XP/2003";
+  return "Windows Vista/Windows Server 2008";
+}
+
+bool FindNodeText(const ui::TreeView& tree, ui::NodeId start, std::string_view text) {
+  const std::vector<ui::NodeId>& level = tree.ChildrenOf(tree.Node(start).Parent);
+  const auto place = std::find(level.begin(), level.end(), start);
+  return LevelHoldsText(tree, level, static_cast<std::size_t>(place - level.begin()), text);
+}
+
+// Names are compared across the whole tree, members included: an alarm of one name is one alarm, whatever its OS class.
+bool ChosenTree::Refuses(const std::string& name, const char* message) {
+  if (tree_.Count() == 0 || !FindNodeText(tree_, tree_.Roots().front(), name)) return false;
+  if (!duplicateReported_) main_.Ui.MsgBox(message, ui::MsgIcon::Exclamation);
+  duplicateReported_ = true;
+  return true;
+}
+
+void ChosenTree::AddAlarmNode(const std::string& name, const std::string& osName) {
+  if (Refuses(name, "You cannot add an alarm or ignore event twice!")) return;
+  PassOver([&] {
+    const std::string key = NewAlarmKey(name, osName);
+    if (!key.empty()) tree_.Add(0, key, name, main_.CVMain->Images().Key(SingleAlarmImage));
+  });
+}
+
+// The first alarm of the name decides the category, whichever was picked. The count in front can come again after a
+// removal; the add then fails on its key without a word.
+std::string ChosenTree::NewAlarmKey(const std::string& name, const std::string& osName) {
+  const auto alarms = main_.Platform.Data.NewRecordset();
+  alarms->Open("SELECT * FROM Alarms WHERE Name = '" + name + "'", *main_.ConfigConnection, CursorType::ForwardOnly,
+               LockType::ReadOnly);
+  const auto categories = main_.Platform.Data.NewRecordset();
+  categories->Open("SELECT * FROM AlarmCategories", *main_.ConfigConnection, CursorType::Dynamic, LockType::Optimistic);
+  if (alarms->Eof() && alarms->Bof()) return {};
+  categories->Find("Index = " + QuoteSqlText(NullToEmpty(alarms->Field("AlarmCategory"))));
+  return PadZero(tree_.Count(), 4) + "_" + NullToEmpty(categories->Field("Name")) + OsSuffix(osName);
+}
+
+void ChosenTree::AddBundleNode(const std::string& name, const std::string& id) {
+  if (Refuses(name, "You cannot add an alarm bundle twice!")) return;
+  PassOver([&] {
+    const ui::NodeId bundle = tree_.Add(0, "GROUP_" + id, name, alarmimage::Bundle);
+    const auto members = main_.Platform.Data.NewRecordset();
+    members->Open("SELECT * FROM AlarmsInGroups, Alarms WHERE AlarmGroupID = " + id +
+                      " AND Alarms.AlarmID = AlarmsInGroups.AlarmID",
+                  *main_.ConfigConnection, CursorType::ForwardOnly, LockType::ReadOnly);
+    for (; !members->Eof(); members->MoveNext())
+      PassOver([&] {
+        tree_.Add(bundle, std::string(MemberPrefix) + id + "_" + ToText(members->Field("Alarms.AlarmID")),
+                  NullToEmpty(members->Field("Name")), alarmimage::Alarm);
+      });
+  });
+}
+
+void ChosenTree::RemoveSelected() {
+  if (tree_.Selected() != 0) tree_.Remove(tree_.Selected());
+}
+
+bool ChosenTree::MayRemove(ui::NodeId node) const { return !chosenkey::IsMember(tree_.Node(node).Key); }
+
+}  // namespace corvane
