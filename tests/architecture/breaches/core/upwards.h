@@ -1,0 +1,1 @@
+#include "logs/frmLogEdit.h"
