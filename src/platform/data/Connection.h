@@ -27,6 +27,11 @@ class Connection {
   virtual void BeginTrans() = 0;
   virtual void CommitTrans() = 0;
   virtual void RollbackTrans() = 0;
+
+  static constexpr int DefaultLockWait = 500;
+  /// How many milliseconds a statement waits for a lock of another process before it fails. Databases that settle this
+  /// themselves pass it over.
+  virtual void SetLockWait(int /*milliseconds*/) {}
 };
 
 /// Creates file-based databases.
