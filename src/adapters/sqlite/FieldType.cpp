@@ -1,0 +1,55 @@
+#include "adapters/sqlite/FieldType.h"
+
+#include <sqlite3.h>
+
+#include <algorithm>
+
+#include "adapters/sqlite/StoreErrors.h"
+#include "platform/Conversions.h"
+
+namespace corvane {
+namespace {
+
+// Continuation bytes of UTF-8 are not counted.
+std::size_t CharactersOf(const std::string& text) {
+  return static_cast<std::size_t>(
+      std::count_if(text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
+}
+
+std::string TextWithin(const Value& value, std::size_t limit) {
+  std::string text = ToText(value);
+  // The engine measures a text up to its first zero byte, which would let the rest past the limit.
+  if (text.find('\0') != text.npos) throw StoreError(errors::TypeMismatch, "Type mismatch");
+  if (limit != 0 && text.size() > limit && CharactersOf(text) > limit)
+    throw StoreError(errors::DataFieldTooSmall, "The field is too small for the value that was to be stored.");
+  return text;
+}
+
+}  // namespace
+
+FieldType FieldTypeOf(const char* declaration) {
+  if (declaration == nullptr) return {};
+  if (sqlite3_stricmp(declaration, "INTEGER") == 0) return {FieldType::Kind::Number, 0};
+  if (sqlite3_stricmp(declaration, "BOOLEAN") == 0) return {FieldType::Kind::Boolean, 0};
+  if (sqlite3_stricmp(declaration, "LONGTEXT") == 0) return {FieldType::Kind::Text, 0};
+  if (sqlite3_strnicmp(declaration, "VARCHAR(", 8) == 0)
+    return {FieldType::Kind::Text, static_cast<std::size_t>(Val(declaration + 8))};
+  return {};
+}
+
+Value ConvertForField(const Value& value, const FieldType& type) {
+  if (IsNull(value)) return value;
+  switch (type.Type) {
+    case FieldType::Kind::Number:
+      return std::int64_t{ToNumber(value)};
+    case FieldType::Kind::Boolean:
+      return ToBoolean(value);
+    case FieldType::Kind::Text:
+      return TextWithin(value, type.Limit);
+    case FieldType::Kind::Other:
+      break;
+  }
+  return value;
+}
+
+}  // namespace corvane
