@@ -136,9 +136,12 @@ void ScriptedHost::ShowModal(ui::Form& form) {
 }
 
 void ScriptedHost::Show(ui::Form& form) {
-  std::erase_if(shownForms_, [](const ui::Form* shown) { return shown->IsUnloaded(); });
   Shown.emplace_back(form.Name());
   shownForms_.push_back(&form);
+}
+
+void ScriptedHost::Forget(const ui::Form& form) {
+  std::erase_if(shownForms_, [&](const ui::Form* shown) { return shown == &form; });
 }
 
 ui::MsgResult ScriptedHost::MsgBox(const std::string& text, ui::MsgIcon icon, ui::MsgButtons buttons,

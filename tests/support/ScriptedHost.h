@@ -62,6 +62,7 @@ class ScriptedHost : public ui::UiHost {
 
   void ShowModal(ui::Form& form) override;
   void Show(ui::Form& form) override;
+  void Forget(const ui::Form& form) override;
   using UiHost::MsgBox;
   ui::MsgResult MsgBox(const std::string& text, ui::MsgIcon icon, ui::MsgButtons buttons,
                        const std::string& title) override;

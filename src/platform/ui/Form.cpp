@@ -11,6 +11,10 @@ Control::Control(Form& form, std::string_view name, ControlKind kind) : form_(fo
 
 Form::Form(UiHost& host, std::string_view name) : host_(host), name_(name) {}
 
+Form::~Form() {
+  if (shown_) host_.Forget(*this);
+}
+
 bool Form::Load() {
   if (!loaded_) {
     loaded_ = true;
@@ -20,11 +24,15 @@ bool Form::Load() {
 }
 
 void Form::ShowModal() {
-  if (Load() && !unloaded_) host_.ShowModal(*this);
+  if (!Load() || unloaded_) return;
+  shown_ = true;
+  host_.ShowModal(*this);
 }
 
 void Form::Show() {
-  if (Load() && !unloaded_) host_.Show(*this);
+  if (!Load() || unloaded_) return;
+  shown_ = true;
+  host_.Show(*this);
 }
 
 void Form::Unload() {

@@ -18,7 +18,7 @@ class Form {
   Form(UiHost& host, std::string_view name);
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
-  virtual ~Form() = default;
+  virtual ~Form();
 
   UiHost& Host() const { return host_; }
   std::string_view Name() const { return name_; }
@@ -60,6 +60,7 @@ class Form {
   std::vector<Control*> controls_;
   bool loaded_ = false;
   bool accepted_ = false;
+  bool shown_ = false;
   bool unloaded_ = false;
 };
 

@@ -33,6 +33,8 @@ class UiHost {
   virtual void ShowModal(Form& form) = 0;
   /// Shows a loaded form and returns. The form stays alive until it is unloaded.
   virtual void Show(Form& form) = 0;
+  /// A form that was shown dies: its window goes with it, and no handler of it is run any more. Its controls are gone.
+  virtual void Forget(const Form& form) = 0;
 
   /// Shows a message box with the title of the program.
   MsgResult MsgBox(const std::string& text, MsgIcon icon, MsgButtons buttons = MsgButtons::Ok) {

@@ -1,0 +1,110 @@
+#include "app/assembly/InstalledPlatform.h"
+
+#include "adapters/lab/LabChannelReader.h"
+#include "adapters/lab/LabDirectoryApi.h"
+#include "adapters/lab/LabDirectoryProvider.h"
+#include "adapters/lab/LabEventLogs.h"
+#include "adapters/lab/LabNetX.h"
+#include "adapters/lab/LabNetwork.h"
+#include "adapters/lab/LabPing.h"
+#include "adapters/lab/LabServiceManager.h"
+#include "adapters/lab/LabSystem.h"
+#include "adapters/lab/LabUnitQuery.h"
+#include "adapters/linux/HostPaths.h"
+#include "adapters/linux/LinuxFiles.h"
+#include "adapters/linux/LinuxLauncher.h"
+#include "adapters/linux/LinuxPing.h"
+#include "adapters/linux/LinuxSingleInstance.h"
+#include "adapters/linux/LinuxSystem.h"
+#include "adapters/settings/IniFiles.h"
+#include "adapters/settings/RegistryFileStore.h"
+#include "adapters/sqlite/SqliteProvider.h"
+#include "app/installation/Installation.h"
+#include "platform/Conversions.h"
+
+namespace corvane {
+namespace {
+
+constexpr int NewestSystem = 6;
+constexpr int PingTimeout = 2000;
+
+// The choices of an installation's platform.ini.
+class PlatformChoice {
+ public:
+  explicit PlatformChoice(IniFiles& profiles) : profiles_(profiles) {}
+
+  int Number(const char* section, const char* key, int fallback) const {
+    return profiles_.GetInt(section, key, fallback, File());
+  }
+  bool Is(const char* section, const char* key, const char* choice) const {
+    std::string value;
+    profiles_.GetString(section, key, "", value, 64, File());
+    return SameText(value, choice);
+  }
+
+ private:
+  static std::string File() { return std::string(HostPaths::ProgramFolder) + "\\" + Installation::PlatformFile; }
+
+  IniFiles& profiles_;
+};
+
+}  // namespace
+
+struct InstalledPlatform::Adapters {
+  explicit Adapters(const std::filesystem::path& folder)
+      : Paths(HostPaths(folder)),
+        Profiles(Paths),
+        Choice(Profiles),
+        Files(Paths),
+        Data(Paths),
+        Network(folder / Installation::LabFile, folder / Installation::RegistryFile),
+        Registry(folder / Installation::RegistryFile,
+                 [this](const std::string& computer, std::filesystem::path& file) {
+                   return Network.RemoteRegistry(computer, file);
+                 }),
+        Machine(Choice.Number("System", "MajorVersion", NewestSystem)),
+        LocalSystem(Network, Machine),
+        Services(Network),
+        EventLogs(Network),
+        Net(Network),
+        Directory(Network),
+        Units(Network),
+        Instance(folder) {
+    if (Choice.Is("Ping", "Source", "linux"))
+      Echo = std::make_unique<LinuxPing>(std::chrono::milliseconds(Choice.Number("Ping", "Timeout", PingTimeout)));
+    else
+      Echo = std::make_unique<LabPing>(Network);
+  }
+
+  PathMap Paths;
+  IniFiles Profiles;
+  PlatformChoice Choice;
+  LinuxFiles Files;
+  SqliteProvider Data;
+  LabNetwork Network;
+  RegistryFileStore Registry;
+  LinuxSystem Machine;
+  LabSystem LocalSystem;
+  LabServiceManager Services;
+  LabEventLogs EventLogs;
+  LabNetX Net;
+  LabDirectoryProvider Directory;
+  LabUnitQuery Units;
+  std::unique_ptr<Ping> Echo;
+  LinuxLauncher Launcher;
+  LinuxSingleInstance Instance;
+};
+
+InstalledPlatform::InstalledPlatform(const std::filesystem::path& folder, ui::UiHost& host)
+    : adapters_(std::make_unique<Adapters>(folder)) {
+  Adapters& all = *adapters_;
+  platform_ = std::make_unique<Platform>(Platform{all.LocalSystem, all.Files, all.Registry, all.Profiles, all.Data,
+                                                  all.Services, all.EventLogs, all.Net, all.Directory, all.Units,
+                                                  *all.Echo, all.Launcher, all.Instance, host,
+                                                  [&all] { return std::make_unique<LabDirectoryApi>(all.Network); },
+                                                  [&all] { return std::make_unique<LabChannelReader>(all.Network); }});
+}
+
+InstalledPlatform::~InstalledPlatform() = default;
+
+}  // namespace corvane
