@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/ui/Commands.h"
 #include "platform/ui/Form.h"
 #include "platform/ui/ListControls.h"
 #include "platform/ui/ListView.h"
