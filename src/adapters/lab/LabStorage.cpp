@@ -30,11 +30,6 @@ class OpenFile {
   const int Number;
 };
 
-bool SameFile(const struct stat& a, const struct stat& b) {
-  return a.st_dev == b.st_dev && a.st_ino == b.st_ino && a.st_size == b.st_size &&
-         a.st_mtim.tv_sec == b.st_mtim.tv_sec && a.st_mtim.tv_nsec == b.st_mtim.tv_nsec;
-}
-
 void WriteAll(int file, std::string_view bytes, const std::filesystem::path& name) {
   while (!bytes.empty()) {
     const ssize_t count = ::write(file, bytes.data(), bytes.size());
@@ -58,6 +53,10 @@ std::string LabStorage::Read() {
   read_ = ::open(file_.c_str(), O_RDONLY | O_CLOEXEC);
   if (read_ < 0 && errno == ENOENT) throw RuntimeError(errors::FileNotFound, "File not found: " + file_.string());
   if (read_ < 0) RaiseAccess(file_);
+  // Taken before the bytes: a change while they are read shows as one afterwards.
+  struct stat status {};
+  if (::fstat(read_, &status) != 0) RaiseAccess(file_);
+  seen_ = StampOf(status);
   std::string bytes;
   std::array<char, 16384> buffer;
   for (;;) {
@@ -69,11 +68,12 @@ std::string LabStorage::Read() {
 }
 
 bool LabStorage::Changed() const {
-  // The file that was read stays open: while it does, no new file can get its number and be taken for it.
-  struct stat seen {
-  }, present{};
-  if (read_ < 0 || ::fstat(read_, &seen) != 0 || ::stat(file_.c_str(), &present) != 0) return true;
-  return !SameFile(seen, present);
+  struct stat present {};
+  return read_ < 0 || ::stat(file_.c_str(), &present) != 0 || seen_ != StampOf(present);
+}
+
+LabStorage::Stamp LabStorage::StampOf(const struct stat& status) {
+  return {status.st_dev, status.st_ino, status.st_size, status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
 }
 
 void LabStorage::Replace(const std::string& bytes) {

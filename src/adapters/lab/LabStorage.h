@@ -1,8 +1,11 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <string>
+
+struct stat;
 
 namespace corvane {
 
@@ -24,8 +27,19 @@ class LabStorage {
   void Exclusively(const std::function<void()>& work);
 
  private:
+  // What tells one content of a file from another.
+  struct Stamp {
+    std::uint64_t Device = 0, Number = 0;
+    std::int64_t Size = 0, Seconds = 0, Nanoseconds = 0;
+
+    bool operator==(const Stamp&) const = default;
+  };
+  static Stamp StampOf(const struct stat& status);
+
   std::filesystem::path file_;
+  // The file that was read stays open: while it does, no new file can get its number and be taken for it.
   int read_ = -1;
+  Stamp seen_;
 };
 
 }  // namespace corvane
