@@ -87,7 +87,7 @@ std::string BytesOfText(std::string_view text) {
 }
 
 std::string TextOfBytes(std::string_view bytes) {
-  if (IsUtf8(bytes)) return std::string(bytes);
+  if (IsAscii(bytes) || IsUtf8(bytes)) return std::string(bytes);
   std::string text;
   for (const char c : bytes) {
     const auto byte = static_cast<unsigned char>(c);

@@ -13,7 +13,7 @@ using settings::IniDocument;
 using settings::TextOfBytes;
 
 struct IniFiles::OpenFile {
-  explicit OpenFile(std::filesystem::path path) : File(std::move(path)) {}
+  OpenFile(std::string name, std::filesystem::path path) : Name(std::move(name)), File(std::move(path)) {}
 
   // True when the document is what stands in the file now.
   bool Refresh() {
@@ -24,6 +24,7 @@ struct IniFiles::OpenFile {
     return isRead;
   }
 
+  std::string Name;
   settings::SettingsFile File;
   IniDocument Document;
 };
@@ -55,15 +56,17 @@ IniFiles::IniFiles(PathMap map) : map_(std::move(map)) {}
 
 IniFiles::~IniFiles() = default;
 
-IniFiles::OpenFile* IniFiles::FileAt(const std::string& path) {
+IniFiles::OpenFile& IniFiles::FileAt(const std::string& path) {
   const std::filesystem::path file = map_(path);
-  if (!last_ || last_->File.Path() != file) last_ = std::make_unique<OpenFile>(file);
-  return last_.get();
+  if (!last_ || last_->File.Path().native() != file.native()) last_ = std::make_unique<OpenFile>(path, file);
+  last_->Name = path;
+  return *last_;
 }
 
 const IniDocument* IniFiles::Document(const std::string& path) {
-  OpenFile* file = FileAt(path);
-  return file->Refresh() ? &file->Document : nullptr;
+  if (last_ && last_->Name == path && last_->File.IsUnchanged()) return &last_->Document;
+  OpenFile& file = FileAt(path);
+  return file.Refresh() ? &file.Document : nullptr;
 }
 
 std::size_t IniFiles::GetString(const std::string& section, const std::string& key, const std::string& fallback,
@@ -101,11 +104,11 @@ std::size_t IniFiles::GetSection(const std::string& section, std::string& lines,
 
 bool IniFiles::WriteString(const std::string& section, const std::string& key, const std::string& value,
                            const std::string& path) {
-  OpenFile* file = FileAt(path);
-  const settings::FileLock lock(file->File.Path(), settings::FileLock::Missing::IsMade);
-  if (lock.Error() != 0 || !file->Refresh()) return false;
-  file->Document.Set(UpToZero(section), UpToZero(key), BytesOfText(UpToZero(value)));
-  return file->File.Replace(file->Document.Bytes(), settings::SettingsFile::Durability::Process) == 0;
+  OpenFile& file = FileAt(path);
+  const settings::FileLock lock(file.File.Path(), settings::FileLock::Missing::IsMade);
+  if (lock.Error() != 0 || !file.Refresh()) return false;
+  file.Document.Set(UpToZero(section), UpToZero(key), BytesOfText(UpToZero(value)));
+  return file.File.Replace(file.Document.Bytes(), settings::SettingsFile::Durability::Process) == 0;
 }
 
 }  // namespace corvane

@@ -31,7 +31,7 @@ class IniFiles : public ProfileFiles {
  private:
   struct OpenFile;
 
-  OpenFile* FileAt(const std::string& path);
+  OpenFile& FileAt(const std::string& path);
   const settings::IniDocument* Document(const std::string& path);
 
   PathMap map_;

@@ -22,14 +22,18 @@ struct NameHash {
     constexpr std::uint64_t caseBits = 0xDFDFDFDFDFDFDFDFULL;
     constexpr std::uint64_t factor = 0x9E3779B97F4A7C15ULL;
     std::uint64_t hash = name.size() * factor;
-    while (!name.empty()) {
-      std::uint64_t word = 0;
-      const std::size_t length = name.size() < sizeof word ? name.size() : sizeof word;
-      std::memcpy(&word, name.data(), length);
+    const auto mix = [&hash](std::uint64_t word) {
       hash = (hash ^ (word & caseBits)) * factor;
       hash ^= hash >> 29;
-      name.remove_prefix(length);
+    };
+    for (; name.size() >= sizeof(std::uint64_t); name.remove_prefix(sizeof(std::uint64_t))) {
+      std::uint64_t word;
+      std::memcpy(&word, name.data(), sizeof word);
+      mix(word);
     }
+    std::uint64_t rest = 0;
+    for (const char c : name) rest = rest << 8 | static_cast<unsigned char>(c);
+    mix(rest);
     return hash;
   }
 };

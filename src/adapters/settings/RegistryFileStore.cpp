@@ -49,7 +49,7 @@ RegistryFileStore::OpenedKey* RegistryFileStore::Look(RegistryHandle handle) {
   const std::uint32_t place = PlaceOf(handle);
   if (place <= LocalMachinePlace || place >= opened_.size()) return nullptr;
   OpenedKey& opened = opened_[place];
-  return opened.File && opened.Serial == handle >> 32 ? &opened : nullptr;
+  return opened.IsOpen && opened.Serial == handle >> 32 ? &opened : nullptr;
 }
 
 long RegistryFileStore::Resolve(RegistryHandle handle, std::uint32_t access, OpenedKey*& opened) {
@@ -73,13 +73,29 @@ RegistryFileStore::OpenedKey& RegistryFileStore::NewPlace(RegistryHandle& handle
     closed_.pop_back();
   }
   ++opened_[place].Serial;
+  opened_[place].IsOpen = true;
   handle = RegistryHandle{opened_[place].Serial} << 32 | (place + 1);
   return opened_[place];
 }
 
+// A list is filled by opening one key, reading a value and closing it, ten times for each row: so the key that was
+// closed last is tried first, before the path is walked.
+RegistryKey* RegistryFileStore::FindBelow(const OpenedKey& root, std::string_view path) const {
+  if (!root.Key) return nullptr;
+  if (!closed_.empty()) {
+    const OpenedKey& last = opened_[closed_.back()];
+    const std::string_view lastPath = last.Path;
+    const std::size_t above = root.Path.size();
+    if (last.File == root.File && last.Revision == root.Revision && lastPath.size() == above + 1 + path.size() &&
+        lastPath.ends_with(path) && lastPath.starts_with(root.Path) && !last.IsRoot)
+      return last.Key;
+  }
+  return root.Key->Find(path);
+}
+
 long RegistryFileStore::OpenBelow(const OpenedKey& root, std::string_view path, std::uint32_t access,
                                   RegistryHandle& opened) {
-  RegistryKey* key = root.Key ? root.Key->Find(path) : nullptr;
+  RegistryKey* key = FindBelow(root, path);
   if (!key) return registry::NotFound;
   OpenedKey& below = NewPlace(opened);
   below.File = root.File;
@@ -211,7 +227,7 @@ long RegistryFileStore::CloseKey(RegistryHandle key) {
   if (key == registry::ClassesRoot || key == registry::LocalMachine) return registry::Ok;
   OpenedKey* opened = Look(key);
   if (!opened) return registry::InvalidHandle;
-  opened->File = nullptr;
+  opened->IsOpen = false;
   closed_.push_back(PlaceOf(key));
   return registry::Ok;
 }

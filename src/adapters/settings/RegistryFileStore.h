@@ -56,18 +56,20 @@ class RegistryFileStore : public RegistryStore {
     settings::RegistryKey* Key = nullptr;
     std::uint64_t Revision = 0;
     bool IsRoot = false;
+    bool IsOpen = false;
   };
 
   OpenedKey* Look(RegistryHandle handle);
   long Resolve(RegistryHandle handle, std::uint32_t access, OpenedKey*& opened);
   OpenedKey& NewPlace(RegistryHandle& handle);
+  settings::RegistryKey* FindBelow(const OpenedKey& root, std::string_view path) const;
   long OpenBelow(const OpenedKey& root, std::string_view path, std::uint32_t access, RegistryHandle& opened);
   void OpenRoot(settings::RegistryFile& file, const char* name, RegistryHandle& opened);
   settings::RegistryFile& FileAt(const std::filesystem::path& path);
 
   Resolver resolver_;
   std::map<std::filesystem::path, std::unique_ptr<settings::RegistryFile>> files_;
-  // The first two are the local roots. A closed place has no file and is used again.
+  // The first two are the local roots. A closed place is used again.
   std::deque<OpenedKey> opened_;
   std::vector<std::uint32_t> closed_;
 };

@@ -84,7 +84,8 @@ void SyncFolder(const std::filesystem::path& folder) {
 // Where a link leads to, so that the link stays and its target is replaced.
 std::filesystem::path TargetOf(const std::filesystem::path& path) {
   std::error_code error;
-  auto target = std::filesystem::weakly_canonical(path, error);
+  if (!std::filesystem::is_symlink(path, error)) return path;
+  auto target = std::filesystem::canonical(path, error);
   return error ? path : target;
 }
 
