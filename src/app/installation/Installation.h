@@ -1,0 +1,41 @@
+#pragma once
+
+#include <filesystem>
+
+namespace corvane {
+
+class RegistryImage;
+struct LabModel;
+
+/// What an installation's folder holds, and how a fresh one is laid out.
+class Installation {
+ public:
+  /// `FirstRun` leaves open what the first start asks for; `Lab` answers it, with the first domain of the lab network.
+  enum class Kind { FirstRun, Lab };
+
+  static constexpr const char* DatabaseFile = "corvane.db";
+  static constexpr const char* RegistryFile = "corvane.reg";
+  static constexpr const char* PlatformFile = "platform.ini";
+  static constexpr const char* LabFile = "lab.ini";
+  /// Where the registries of the lab's other computers lie.
+  static constexpr const char* RegistryFolder = "registry";
+  static constexpr const char* RapidConfigFolder = "RapidConfigs";
+  static constexpr const char* AgentConfigFolder = "AgentConfigs";
+
+  /// `data` is the folder with the shipped schema, catalogue, settings and lab network.
+  explicit Installation(std::filesystem::path data);
+
+  /// Lays out an installation in a folder that is missing or empty. Raises `InstallationError`, with nothing left
+  /// behind, also when the folder holds an installation already.
+  void LayOut(const std::filesystem::path& folder, Kind kind) const;
+
+ private:
+  void Fill(const std::filesystem::path& folder, Kind kind) const;
+  void MakeDatabase(const std::filesystem::path& folder) const;
+  void MakeRegistries(const std::filesystem::path& folder, const LabModel& lab, Kind kind) const;
+  void CopyFile(const char* name, const std::filesystem::path& folder) const;
+
+  std::filesystem::path data_;
+};
+
+}  // namespace corvane
