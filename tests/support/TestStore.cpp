@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <string>
 
 #include "platform/Conversions.h"
@@ -24,9 +25,16 @@ PathMap MapTo(const std::filesystem::path& folder) {
 }  // namespace
 
 TestStore::TestStore(int format) : Provider(MapTo(Folder)) {
+  // Made once and copied afterwards: every test has a file of its own, and making one waits for the disk.
+  static std::map<int, std::string> made;
+  std::string& bytes = made[format];
+  if (!bytes.empty()) {
+    Place.Write("corvane.mdb", bytes);
+    return;
+  }
   std::ifstream schema(CORVANE_SOURCE_DIR "/data/schema.sql");
-  const std::string sql{std::istreambuf_iterator<char>(schema), {}};
-  SqliteProvider::CreateStore(File, sql, format);
+  SqliteProvider::CreateStore(File, std::string{std::istreambuf_iterator<char>(schema), {}}, format);
+  bytes = Place.Read("corvane.mdb");
 }
 
 std::unique_ptr<Connection> TestStore::Connect() {
