@@ -1,0 +1,37 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/data/Connection.h"
+
+namespace corvane::test {
+
+/// The data layer with a witness: it notes every statement in order and can fail one of them.
+class RecordingData : public DataProvider {
+ public:
+  explicit RecordingData(DataProvider& real) : Real(real) {}
+
+  std::unique_ptr<Connection> NewConnection() override;
+  std::unique_ptr<Recordset> NewRecordset() override;
+  std::unique_ptr<Catalog> NewCatalog() override { return Real.NewCatalog(); }
+
+  /// Every statement run and every recordset opened since the last `Forget`.
+  std::vector<std::string> Statements;
+  void Forget() { Statements.clear(); }
+  /// Those of the statements that change rows.
+  std::vector<std::string> Changes() const;
+
+  /// Statements for which this is true fail with `DataLocked`.
+  std::function<bool(const std::string& sql)> Fails;
+  /// Lets the statement fail that comes after `count` further ones that hold the text.
+  void FailAfter(int count, std::string holding);
+
+  /// Notes a statement and raises when it is to fail.
+  void Meet(const std::string& sql);
+
+  DataProvider& Real;
+};
+
+}  // namespace corvane::test

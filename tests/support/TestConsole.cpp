@@ -1,0 +1,85 @@
+#include "support/TestConsole.h"
+
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+
+#include <map>
+
+namespace corvane::test {
+namespace {
+
+// Laying out an installation takes its time; each kind is made once and copied for every test.
+const std::filesystem::path& Template(Installation::Kind kind) {
+  static const TempFolder place;
+  static std::map<Installation::Kind, std::filesystem::path> made;
+  std::filesystem::path& folder = made[kind];
+  if (folder.empty()) {
+    folder = place.Path() / std::to_string(static_cast<int>(kind));
+    Installation(CORVANE_SOURCE_DIR "/data").LayOut(folder, kind);
+  }
+  return folder;
+}
+
+std::unique_ptr<InstalledPlatform> Install(Installation::Kind kind, const std::filesystem::path& folder,
+                                           ui::UiHost& host) {
+  std::filesystem::copy(Template(kind), folder, std::filesystem::copy_options::recursive);
+  return std::make_unique<InstalledPlatform>(folder, host);
+}
+
+}  // namespace
+
+TestConsole::TestConsole(Installation::Kind kind)
+    : installed_(Install(kind, Folder(), Host)),
+      System(installed_->Ports().System),
+      Data(installed_->Ports().Data),
+      Ports{System,
+            installed_->Ports().Files,
+            installed_->Ports().Registry,
+            installed_->Ports().Profiles,
+            Data,
+            installed_->Ports().Services,
+            installed_->Ports().EventLogs,
+            installed_->Ports().NetX,
+            installed_->Ports().Directory,
+            installed_->Ports().Units,
+            installed_->Ports().Ping,
+            installed_->Ports().Launcher,
+            installed_->Ports().Instance,
+            Host,
+            installed_->Ports().CreateDirectoryApi,
+            installed_->Ports().CreateChannelReader},
+      App(Ports) {}
+
+// The engine itself reads here, past everything that is tested.
+std::string TestConsole::Rows(const std::string& sql) {
+  sqlite3* database = nullptr;
+  EXPECT_EQ(SQLITE_OK, sqlite3_open((Folder() / Installation::DatabaseFile).c_str(), &database));
+  std::string text;
+  const auto addRow = [](void* to, int count, char** cells, char**) {
+    auto& rows = *static_cast<std::string*>(to);
+    for (int i = 0; i < count; ++i) rows += std::string(i > 0 ? "|" : "") + (cells[i] ? cells[i] : "NULL");
+    rows += "\n";
+    return 0;
+  };
+  char* error = nullptr;
+  EXPECT_EQ(SQLITE_OK, sqlite3_exec(database, sql.c_str(), addRow, &text, &error)) << sql << ": " << error;
+  sqlite3_free(error);
+  sqlite3_close(database);
+  return text;
+}
+
+void TestConsole::SetLab(const std::string& section, const std::string& key, const std::string& value) {
+  LabNetwork network(Folder() / Installation::LabFile);
+  network.Change([&](const LabModel&, LabFile& file) {
+    file.Set(section, key, value);
+    return true;
+  });
+}
+
+void TestConsole::ChooseDomain(const std::string& domain) {
+  const int index = Window().lstDomain.IndexOf(domain);
+  ASSERT_GE(index, 0) << domain << " is not listed";
+  Host.Choose(Window().lstDomain, index);
+}
+
+}  // namespace corvane::test
