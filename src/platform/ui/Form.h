@@ -8,7 +8,7 @@
 
 namespace corvane::ui {
 
-class CommandButton;
+struct CommandButton;
 class UiHost;
 
 /// A screen without a face: its controls are fields, its handlers functions. Life: construct, `Load`, set flags,
