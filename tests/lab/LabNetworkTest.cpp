@@ -156,7 +156,7 @@ TEST_F(LabNetworkTest, TwoProcessesLoseNoChangeOfEachOther) {
     ::_exit(0);
   }
   // Meanwhile a reader never meets a half-written file.
-  std::thread writer([&] { add("Watcher"); });
+  std::jthread writer([&] { add("Watcher"); });
   while (::waitpid(child, nullptr, WNOHANG) == 0) Network.Model();
   writer.join();
   EXPECT_EQ(Network.Model()->FindService("Bridge")->StartMs, Rounds);

@@ -101,7 +101,10 @@ TEST_F(LabPortsTest, UnitsAreSearchedByPathAndScope) {
   EXPECT_EQ(query.Search("<LDAP://OU=Web,OU=Servers,DC=north,DC=example" + tail), Names{"WEB"});
   EXPECT_EQ(query.Search("<LDAP://CN=Computers,DC=north,DC=example" + tail), Names{});
   EXPECT_EQ(query.Search("<LDAP://DC=north,DC=example" + tail), (Names{"DC0", "DC1", "DESK", "WEB"}));
-  const std::pair<std::string, std::string> failures[] = {
+  struct Failure {
+    std::string Text, Error;
+  };
+  const Failure failures[] = {
       {"<LDAP://OU=Nothing,DC=north,DC=example" + tail, "440 There is no such object on the server."},
       {"<LDAP://SDC/DC=north,DC=example" + tail, "440 There is no such object on the server."},
       {"<LDAP://DC0/DC=north,DC=example" + tail, "440 The network path was not found."},
@@ -112,7 +115,7 @@ TEST_F(LabPortsTest, UnitsAreSearchedByPathAndScope) {
       {"", "440 The search query is not understood."},
       {"<" + tail, "440 The search query is not understood."},
   };
-  for (const auto& [text, error] : failures) EXPECT_EQ(ErrorOf([&] { query.Search(text); }), error) << text;
+  for (const Failure& f : failures) EXPECT_EQ(ErrorOf([&] { query.Search(f.Text); }), f.Error) << f.Text;
 }
 
 TEST_F(LabPortsTest, ClassicLogsGiveTheirCounters) {
