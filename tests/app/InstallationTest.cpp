@@ -1,0 +1,289 @@
+#include "app/installation/Installation.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <map>
+#include <regex>
+#include <sstream>
+
+#include "adapters/lab/LabNetwork.h"
+#include "adapters/linux/HostPaths.h"
+#include "adapters/settings/RegistryFileStore.h"
+#include "adapters/sqlite/SqliteProvider.h"
+#include "app/installation/CatalogueFile.h"
+#include "app/installation/InstallationError.h"
+#include "app/installation/InstallerCommand.h"
+#include "core/LogTypes.h"
+#include "core/Settings.h"
+#include "support/TempFolder.h"
+
+namespace corvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path shipped = CORVANE_SOURCE_DIR "/data";
+
+std::string LayOut(const fs::path& folder, Installation::Kind kind, const fs::path& data = shipped) {
+  try {
+    Installation(data).LayOut(folder, kind);
+  } catch (const InstallationError& error) {
+    return error.what();
+  }
+  return "";
+}
+
+// A value of a registry file, of type 0 when it is not there.
+RegistryValue ValueIn(const fs::path& file, RegistryHandle root, const std::string& key, const std::string& name) {
+  RegistryFileStore store(file);
+  RegistryHandle opened = 0;
+  RegistryValue value;
+  if (store.OpenKey(root, key, registry::Read, opened) == registry::Ok) store.QueryValue(opened, name, value);
+  return value;
+}
+
+std::string TextOf(const RegistryValue& value) {
+  const bool text = value.Type == registry::String || value.Type == registry::ExpandString;
+  return text && !value.Bytes.empty() ? value.Bytes.substr(0, value.Bytes.size() - 1) : "no text";
+}
+
+std::int64_t NumberOf(const RegistryValue& value) {
+  if (value.Type != registry::Number || value.Bytes.size() != 4) return -1;
+  std::int64_t number = 0;
+  for (std::size_t i = 4; i > 0; --i) number = number << 8 | static_cast<unsigned char>(value.Bytes[i - 1]);
+  return number;
+}
+
+class InstallationTest : public testing::Test {
+ protected:
+  RegistryValue Local(const std::string& key, const std::string& name) const {
+    return ValueIn(folder_ / Installation::RegistryFile, registry::LocalMachine, key, name);
+  }
+  LabNetwork Lab() const {
+    LabTiming timing;
+    timing.Sleep = [](int) {};
+    return LabNetwork(folder_ / Installation::LabFile, folder_ / Installation::RegistryFile, timing);
+  }
+
+  test::TempFolder place_;
+  const fs::path folder_ = place_.Path() / "deep" / "installation";
+};
+
+TEST_F(InstallationTest, EverySettingIsThereWithItsTypeAndWithinItsRange) {
+  ASSERT_EQ(LayOut(folder_, Installation::Kind::FirstRun), "");
+  const std::map<std::string, std::pair<std::int64_t, std::int64_t>> numbers{{"RCAtStartup", {0, 0}},
+                                                                             {"CPURestFactor", {4, 25000}},
+                                                                             {"TurboScan", {0, 1}},
+                                                                             {"NumProcesses", {1, 60}},
+                                                                             {"PriorRecordLimit", {100, 5000}},
+                                                                             {"CacheHandles", {0, 1}},
+                                                                             {"PingTest", {0, 1}},
+                                                                             {"PingTimeout", {100, 9999}},
+                                                                             {"UseFloodControl", {0, 1}},
+                                                                             {"AlarmFloodLimit", {5, 9999}},
+                                                                             {"AlarmFloodWindow", {5, 9999}},
+                                                                             {"FloodExpiration", {60, 90000}},
+                                                                             {"FloodControlMask", {0, 31}},
+                                                                             {"UseOperationHours", {0, 1}},
+                                                                             {"1OperationHours", {0, 0xFFFFFFFF}},
+                                                                             {"2OperationHours", {0, 0xFFFFFFFF}},
+                                                                             {"3OperationHours", {0, 0xFFFFFFFF}},
+                                                                             {"4OperationHours", {0, 0xFFFFFFFF}},
+                                                                             {"5OperationHours", {0, 0xFFFFFFFF}},
+                                                                             {"6OperationHours", {0, 0xFF}},
+                                                                             {"SMTPPort", {1, 65535}},
+                                                                             {"ModemDisconnect", {20, 300}},
+                                                                             {"DataModemIndex", {0, 2}},
+                                                                             {"DisableMailslots", {0, 1}},
+                                                                             {"UseRFC3164", {0, 1}},
+                                                                             {"SyslogPort", {1, 59999}},
+                                                                             {"TransformASF", {0, 1}},
+                                                                             {"TransformUser", {0, 1}},
+                                                                             {"TransformKO", {0, 1}}};
+  for (const auto& [name, range] : numbers) {
+    const std::int64_t number = NumberOf(Local(SettingsKey, name));
+    EXPECT_TRUE(number >= range.first && number <= range.second) << name << " is " << number;
+  }
+  const std::map<std::string, std::string> texts{{"ConfigMDBPath", R"(C:\\Corvane\\corvane\.db)"},
+                                                 {"DataFile", R"(C:\\Corvane\\syslog\.dat)"},
+                                                 {"DataFileEx", R"(C:\\Corvane\\syslogex\.dat)"},
+                                                 {"CatalogHyperlink", "https://[^ ]+"},
+                                                 {"UpgradeHyperlink", "https://[^ ?]+"},
+                                                 {"ComputerEnum", "[012]"},
+                                                 {"PingNotification", ""},
+                                                 {"AgentMachines", ""},
+                                                 {"SMTPServer", R"([\w.]+)"},
+                                                 {"NotifySenderEmail", R"([\w.]+@[\w.]+)"}};
+  for (const auto& [name, form] : texts) {
+    const RegistryValue value = Local(SettingsKey, name);
+    EXPECT_EQ(value.Type, registry::String) << name;
+    EXPECT_TRUE(std::regex_match(TextOf(value), std::regex(form))) << name << " is " << TextOf(value);
+  }
+  const auto browser =
+      ValueIn(folder_ / Installation::RegistryFile, registry::ClassesRoot, R"(http\shell\open\command)", "");
+  EXPECT_NE(TextOf(browser).find("%1"), std::string::npos);
+  const std::string modems = R"(SYSTEM\CurrentControlSet\Control\Class\{4D36E96D-E325-11CE-BFC1-08002BE10318}\000)";
+  for (const char* index : {"0", "1"}) EXPECT_NE(TextOf(Local(modems + index, "FriendlyName")), "no text");
+}
+
+TEST_F(InstallationTest, OnlyTheLabAnswersWhatTheFirstStartAsks) {
+  for (const auto kind : {Installation::Kind::FirstRun, Installation::Kind::Lab}) {
+    ASSERT_EQ(LayOut(folder_, kind), "");
+    const bool lab = kind == Installation::Kind::Lab;
+    EXPECT_EQ(TextOf(Local(SettingsKey, "Created")), lab ? "1" : "no text");
+    EXPECT_EQ(TextOf(Local(SettingsKey, "DefaultDomain")), lab ? Lab().Model()->Domains.front().Name : "no text");
+    EXPECT_EQ(NumberOf(Local(SettingsKey, "ManagingADomain")), lab ? 1 : -1);
+    for (const char* name : {Installation::RapidConfigFolder, Installation::AgentConfigFolder})
+      EXPECT_TRUE(fs::is_directory(folder_ / name));
+    fs::remove_all(folder_);
+  }
+}
+
+TEST_F(InstallationTest, EveryComputerOfTheLabTellsItsSystemAndLogs) {
+  ASSERT_EQ(LayOut(folder_, Installation::Kind::Lab), "");
+  LabNetwork lab = Lab();
+  const auto model = lab.Model();
+  EXPECT_GE(model->Computers.size(), 60u);
+  for (const LabComputer& computer : model->Computers) {
+    SCOPED_TRACE(computer.Name);
+    fs::path file = folder_ / Installation::RegistryFolder / (computer.Name + ".reg");
+    if (computer.State == LabState::On) lab.RemoteRegistry(computer.Name, file);
+    EXPECT_EQ(file == folder_ / Installation::RegistryFile, computer.Name == model->LocalComputer);
+    const auto value = [&](const std::string& key, const std::string& name) {
+      return ValueIn(file, registry::LocalMachine, key, name);
+    };
+    EXPECT_EQ(TextOf(value(R"(Software\Microsoft\Windows NT\CurrentVersion)", "ProductName")), computer.Product);
+    for (const LabLog& log : computer.Logs) {
+      const std::string key = R"(System\CurrentControlSet\Services\Eventlog\)" + log.Name;
+      EXPECT_EQ(TextOf(value(key, "File")), log.File);
+      EXPECT_EQ(NumberOf(value(key, "MaxSize")), log.MaxSize);
+      EXPECT_EQ(NumberOf(value(key, "Retention")), log.Retention);
+    }
+  }
+}
+
+// Statistics are seen only under the names of logs that can be put under watch.
+TEST_F(InstallationTest, StatisticsBelongToLogsOfTheLab) {
+  ASSERT_EQ(LayOut(folder_, Installation::Kind::Lab), "");
+  const std::regex time(R"((\d{1,2}_){2}\d{4}(_\d{1,2}){3})"), number(R"(\d+)");
+  std::size_t found = 0;
+  const auto model = Lab().Model();
+  for (const LabComputer& computer : model->Computers)
+    for (const LabLog& log : computer.Logs) {
+      const std::string id = MakeIDName(computer.Name, LogNumber(log.Name));
+      const auto stands = [&](const std::string& suffix, const std::regex& form) {
+        return std::regex_match(TextOf(Local(StatisticsKey, id + suffix)), form);
+      };
+      if (!stands("_LastCheck", time)) continue;
+      EXPECT_TRUE(stands("_LastScan", time) && stands("_NumEvents", number) && stands("_ScanTime", number)) << id;
+      found += 4;
+    }
+  EXPECT_GE(found, 4u * 3u);
+  RegistryFileStore store(folder_ / Installation::RegistryFile);
+  RegistryHandle key = 0;
+  std::string name;
+  RegistryValue value;
+  ASSERT_EQ(store.OpenKey(registry::LocalMachine, StatisticsKey, registry::Read, key), registry::Ok);
+  EXPECT_EQ(store.EnumValue(key, static_cast<std::uint32_t>(found), name, value), registry::NoMoreItems) << name;
+}
+
+TEST_F(InstallationTest, TheDatabaseHoldsTheCatalogue) {
+  ASSERT_EQ(LayOut(folder_, Installation::Kind::FirstRun), "");
+  std::ifstream text(shipped / "catalogue.txt");
+  const Catalogue catalogue = CatalogueFile("catalogue.txt").Read(text);
+  SqliteProvider provider{HostPaths(folder_)};
+  const auto connection = provider.NewConnection();
+  connection->Open(R"(Provider=Microsoft.Jet.OLEDB.3.51;Data Source=C:\Corvane\corvane.db;)");
+  const auto count = [&](const std::string& source) {
+    return static_cast<std::size_t>(
+        ToNumber(connection->Execute("SELECT COUNT(*) AS Found FROM " + source)->Field("Found")));
+  };
+  EXPECT_EQ(count("OSTypes"), 3u);
+  EXPECT_EQ(count("LogTypes"), 6u);
+  EXPECT_EQ(count("AlarmCategories"), catalogue.Categories.size());
+  EXPECT_EQ(count("Alarms"), catalogue.Alarms.size());
+  EXPECT_EQ(count("Alarms, AlarmCategories WHERE AlarmCategories.Index = Alarms.AlarmCategory"),
+            catalogue.Alarms.size());
+  EXPECT_EQ(count("Alarms WHERE Name = 'All Errors' AND Source IS NULL AND EventID = -1 AND TypeMask = 4"), 3u);
+  EXPECT_EQ(count("AlarmGroups"), catalogue.Bundles.size());
+  for (const auto& bundle : catalogue.Bundles)
+    EXPECT_EQ(
+        count("AlarmsInGroups, Alarms, AlarmGroups WHERE AlarmGroups.Name = '" + bundle.Name +
+              "' AND AlarmsInGroups.AlarmGroupID = AlarmGroups.Index AND Alarms.AlarmID = AlarmsInGroups.AlarmID"),
+        bundle.Members.size());
+  EXPECT_EQ(count("Notifications"), 3u);
+  EXPECT_EQ(count("Notifications WHERE SyslogServer IS NOT NULL AND TypesSupported = 16 AND EmailRecipient IS NULL"),
+            1u);
+}
+
+TEST_F(InstallationTest, AFailureLeavesNothingBehind) {
+  const fs::path data = place_.Path() / "data";
+  const auto failure = [&] { return LayOut(folder_, Installation::Kind::Lab, data); };
+  EXPECT_EQ(failure(), "the data folder " + data.string() + " does not exist");
+  fs::copy(shipped, data);
+  const std::pair<std::string, std::string> spoilt[] = {
+      {"catalogue.txt", "catalogue.txt:1: 'no' is no keyword"},
+      {"settings.reg", (data / "settings.reg").string() + " is no registry file"},
+      {"schema.sql", ""},
+      {"lab.ini", ""}};
+  for (const auto& [name, expected] : spoilt) {
+    std::ofstream(data / name) << "no such thing";
+    const std::string why = failure();
+    EXPECT_TRUE(expected.empty() ? !why.empty() : why == expected) << name << ": " << why;
+    fs::copy_file(shipped / name, data / name, fs::copy_options::overwrite_existing);
+  }
+  fs::remove(data / "platform.ini");
+  EXPECT_EQ(failure(), (data / "platform.ini").string() + " cannot be read: No such file or directory");
+  EXPECT_EQ(LayOut("/proc/corvane/inner", Installation::Kind::Lab), "/proc/corvane: No such file or directory");
+  fs::remove_all(data);
+  EXPECT_TRUE(fs::is_empty(place_.Path()));
+}
+
+TEST_F(InstallationTest, NothingIsOverwritten) {
+  ASSERT_EQ(LayOut(folder_, Installation::Kind::Lab), "");
+  const auto written = fs::last_write_time(folder_ / Installation::DatabaseFile);
+  const std::pair<fs::path, std::string> occupied[] = {
+      {folder_, folder_.string() + " holds an installation already"},
+      {folder_ / "", folder_.string() + " holds an installation already"},
+      {folder_ / Installation::LabFile, (folder_ / Installation::LabFile).string() + " is no folder"},
+      {place_.Path(), place_.Path().string() + " is not empty"}};
+  for (const auto& [folder, why] : occupied) EXPECT_EQ(LayOut(folder, Installation::Kind::Lab), why);
+  EXPECT_EQ(fs::last_write_time(folder_ / Installation::DatabaseFile), written);
+  const fs::path empty = place_.Path() / "empty", link = place_.Path() / "link";
+  fs::create_directory(empty);
+  fs::create_directory_symlink(empty, link);
+  EXPECT_EQ(LayOut(link / "", Installation::Kind::Lab), "");
+  EXPECT_TRUE(fs::is_symlink(link) && fs::exists(empty / Installation::DatabaseFile));
+  EXPECT_EQ(LayOut(place_.Path() / "new" / "", Installation::Kind::Lab), "");
+  EXPECT_EQ(std::distance(fs::directory_iterator(place_.Path()), {}), 4);
+}
+
+TEST_F(InstallationTest, TheCommandLineSaysWhatWentWrong) {
+  const std::string folder = folder_.string(), usage = "Usage: corvane-install DIR ";
+  const struct {
+    std::vector<std::string> Arguments;
+    int Code;
+    std::string Out, Errors;
+  } cases[] = {{{}, 2, "", "corvane-install: no folder\n\n" + usage},
+               {{"--fast", folder}, 2, "", "corvane-install: unknown option --fast\n\n" + usage},
+               {{folder, "--lab", "--first-run"},
+                2,
+                "",
+                "corvane-install: --lab and --first-run exclude each other\n\n" + usage},
+               {{folder, "other"}, 2, "", "corvane-install: more than one folder\n\n" + usage},
+               {{folder, "--data"}, 2, "", "corvane-install: --data needs a folder\n\n" + usage},
+               {{"--help"}, 0, usage, ""},
+               {{folder, "--data", "/none"}, 1, "", "corvane-install: the data folder /none does not exist\n"},
+               {{"--lab", folder}, 0, "The installation stands in " + folder + ".\n", ""},
+               {{folder}, 1, "", "corvane-install: " + folder + " holds an installation already\n"}};
+  for (const auto& [arguments, code, output, errors] : cases) {
+    std::ostringstream out, err;
+    EXPECT_EQ(InstallerCommand(shipped, out, err).Run(arguments), code);
+    EXPECT_TRUE(out.str().starts_with(output) && out.str().empty() == output.empty()) << out.str();
+    EXPECT_TRUE(err.str().starts_with(errors) && err.str().empty() == errors.empty()) << err.str();
+  }
+}
+
+}  // namespace
+}  // namespace corvane
