@@ -22,14 +22,10 @@ TEST(LinuxSystemTest, NowIsTheWallClockOfTheZoneInForce) {
   before ? ::setenv("TZ", kept.c_str(), 1) : ::unsetenv("TZ");
 }
 
-TEST(LinuxSystemTest, NamesAreThoseOfUserAndHost) {
-  LinuxSystem system(4);
-  EXPECT_EQ(system.MajorVersion(), 4);
-  ASSERT_TRUE(system.ComputerName());
-  EXPECT_FALSE(system.ComputerName()->empty());
-  EXPECT_EQ(system.ComputerName()->find_first_of(".abcdefghijklmnopqrstuvwxyz"), std::string::npos);
-  ASSERT_TRUE(system.UserName());
-  EXPECT_FALSE(system.UserName()->empty());
+TEST(LinuxSystemTest, TheHostNameIsAFlatOne) {
+  const std::string name = LinuxSystem().ComputerName().value_or("");
+  EXPECT_NE(name, "");
+  EXPECT_EQ(name.find_first_of(".abcdefghijklmnopqrstuvwxyz"), name.npos);
 }
 
 }  // namespace
