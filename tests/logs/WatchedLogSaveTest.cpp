@@ -1,5 +1,5 @@
-#include "platform/RuntimeError.h"
 #include "logs/LogEditFixture.h"
+#include "platform/RuntimeError.h"
 #include "support/LogRows.h"
 
 namespace corvane::test {
