@@ -3,6 +3,7 @@
 #include <array>
 
 #include "core/LogTypes.h"
+#include "core/PassOver.h"
 #include "core/SqlText.h"
 #include "platform/RuntimeError.h"
 #include "platform/data/Connection.h"
@@ -27,7 +28,8 @@ void CatalogueWriter::Write(const Catalogue& catalogue) {
     WriteAll(catalogue);
     connection_.CommitTrans();
   } catch (const RuntimeError&) {
-    connection_.RollbackTrans();
+    // Some failures have ended the transaction themselves; the reason to tell is theirs.
+    PassOver([&] { connection_.RollbackTrans(); });
     throw;
   }
 }

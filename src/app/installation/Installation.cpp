@@ -61,9 +61,9 @@ void Installation::LayOut(const fs::path& folder, Kind kind) const {
     Fill(scratch.Path(), kind);
     scratch.MoveToDestination();
   } catch (const RuntimeError& error) {
-    throw InstallationError(error.Description);
+    throw InstallationError(folder.string() + " cannot be laid out: " + error.Description);
   } catch (const fs::filesystem_error& error) {
-    throw InstallationError(error.path1().string() + ": " + error.code().message());
+    throw InstallationError(folder.string() + " cannot be laid out: " + error.code().message());
   }
 }
 
