@@ -1,14 +1,32 @@
 #include <gtest/gtest.h>
 
+#include "app/assembly/RunConsole.h"
+#include "core/Settings.h"
+#include "core/console/frmBegin.h"
 #include "platform/RuntimeError.h"
 #include "support/TestConsole.h"
 
 namespace corvane::test {
 namespace {
 
+void Overwrite(const std::filesystem::path& file, const std::string& bytes) {
+  std::ofstream(file, std::ios::binary | std::ios::trunc) << bytes;
+}
+
 TEST(Start, ShowsTheSplashInThreeStagesAndThenTheWindow) {
   TestConsole console;
+  std::vector<std::string> stages;
+  for (int i = 0; i < 3; ++i)
+    console.Host.OnDoEvents([&] {
+      const auto& splash = dynamic_cast<const frmStartup&>(console.Host.Top());
+      EXPECT_EQ(ui::Pointer::Hourglass, splash.MousePointer);
+      EXPECT_FALSE(splash.cmdClose.Visible);
+      stages.push_back(std::to_string(splash.prgStartup.Value) + " " + splash.lblProgress.Caption);
+    });
   console.Start();
+  EXPECT_EQ((std::vector<std::string>{"1 Initializing data access...", "2 Loading registered logs...",
+                                      "3 Checking status of services..."}),
+            stages);
   EXPECT_EQ((std::vector<std::string>{"frmStartup", "frmCVMain"}), console.Host.Shown);
   EXPECT_EQ((std::vector<int>{400, 500, 500, 500}), console.Host.Slept);
   EXPECT_EQ("MERIDIAN", console.Window().lstDomain.Text());
@@ -16,6 +34,121 @@ TEST(Start, ShowsTheSplashInThreeStagesAndThenTheWindow) {
   EXPECT_EQ("Corvane Service", console.Window().stbMain.Panels[1].Text);
   EXPECT_EQ("stopped", console.Window().stbMain.Panels[1].Picture);
   EXPECT_EQ("Syslog Bridge Service", console.Window().stbMain.Panels[2].Text);
+  EXPECT_EQ("stopped", console.Window().stbMain.Panels[2].Picture);
+}
+
+TEST(Start, ShowsRunningServices) {
+  TestConsole console;
+  console.SetLab("Service Corvane Service", "State", "running");
+  console.SetLab("Service CVSyslogBridge", "State", "stop pending");
+  console.Start();
+  EXPECT_EQ("running", console.Window().stbMain.Panels[1].Picture);
+  EXPECT_EQ("running", console.Window().stbMain.Panels[2].Picture);
+}
+
+TEST(Start, ASecondConsoleEndsWithoutAWord) {
+  TestConsole console;
+  console.Start();
+  ScriptedHost host;
+  InstalledPlatform second(console.Folder(), host);
+  Console other(second.Ports());
+  other.Main();
+  EXPECT_FALSE(other.Started());
+  EXPECT_TRUE(host.Shown.empty() && host.Boxes.empty());
+  console.Host.Click(console.Window().mnuViewRefresh);
+}
+
+TEST(Start, AFirstRunShowsItsNoticeAndRegistersTheEventSource) {
+  TestConsole console(Installation::Kind::FirstRun);
+  console.Host.OnModal<frmBegin>("frmBegin", [&](frmBegin& form) {
+    EXPECT_TRUE(console.Host.Slept.empty());
+    form.imgEA.Click(6);
+    console.Host.OnBox("Corvane is a trademark of Tarnwick Software.  All rights reserved.");
+    form.imgEA.Click(7);
+    console.Host.Click(form.cmdStart);
+  });
+  console.Start();
+  EXPECT_EQ((std::vector<std::string>{"frmBegin", "frmStartup", "frmCVMain"}), console.Host.Shown);
+  const Reghack& settings = console.App.State().Registry;
+  const char* source = "System\\CurrentControlSet\\Services\\EventLog\\Application\\Corvane Service";
+  EXPECT_EQ("C:\\Corvane\\corvane.exe", settings.DeNullString(settings.GetKeyValue(source, "EventMessageFile")));
+  EXPECT_EQ("7", settings.GetKeyValue(source, "TypesSupported"));
+  EXPECT_EQ("11_16_2026_14_5_9", console.Setting("LastUpgradeCheck"));
+  EXPECT_EQ("", console.Setting("Created"));
+  // The bridge was started on the way.
+  EXPECT_EQ("running", console.Window().stbMain.Panels[2].Picture);
+}
+
+TEST(Start, OnlyTheVersionsThatHaveThemGetTheNetworkObjects) {
+  for (const int version : {4, 5, 6}) {
+    TestConsole console;
+    console.System.Version = version;
+    console.Start();
+    EXPECT_EQ(version >= 5, console.App.State().DirectoryApi != nullptr) << version;
+    EXPECT_EQ(version >= 6, console.App.State().ChannelReader != nullptr) << version;
+    EXPECT_EQ("MERIDIAN", console.Window().lstDomain.Text()) << version;
+    EXPECT_EQ((std::vector<std::string>{"MERIDIAN", "HARBOR", "DEPOT"}), console.Window().lstDomain.All()) << version;
+  }
+}
+
+TEST(Start, TheNumberOfRapidConfigurationMustBeThere) {
+  const struct {
+    Value Stored;
+    std::uint32_t Type;
+    bool Ends;
+  } cases[] = {{"1.0", registry::String, false}, {"0", registry::String, false},    {"1.4", registry::String, false},
+               {1, registry::Number, false},     {"often", registry::String, true}, {"", registry::String, true}};
+  for (const auto& one : cases) {
+    TestConsole console;
+    console.App.State().Registry.SetKeyValue(SettingsKey, "RCAtStartup", one.Stored, one.Type);
+    if (one.Ends) console.Host.OnBox("Run-time error '13':\n\nType mismatch");
+    bool looped = false;
+    EXPECT_EQ(one.Ends ? 1 : 0, RunConsole(console.Ports, [&] {
+                looped = true;
+                return 0;
+              }));
+    EXPECT_EQ(!one.Ends, looped);
+    EXPECT_EQ("frmCVMain", console.Host.Shown.back());
+  }
+}
+
+TEST(Start, AStoreThatCannotBeOpenedLeavesEmptyListsAndSaysNothing) {
+  for (const char* content : {"missing", "not a database at all", ""}) {
+    TestConsole console;
+    const auto file = console.Folder() / Installation::DatabaseFile;
+    if (std::string(content) == "missing")
+      std::filesystem::remove(file);
+    else
+      Overwrite(file, content);
+    console.Start();
+    EXPECT_EQ("0 log(s) watched by Corvane", console.Window().stbMain.Panels[0].Text) << content;
+    EXPECT_EQ(ObjectState::Closed, console.App.State().ConfigConnection->State()) << content;
+    EXPECT_EQ("frmCVMain", console.Host.Shown.back());
+    EXPECT_EQ(std::string(content) != "missing", std::filesystem::exists(file));
+  }
+}
+
+// Without its settings the console takes this for a first run, and ends where a setting must be there.
+TEST(Start, AnUnreadableRegistryIsAFirstRunThatEndsWithItsError) {
+  TestConsole console;
+  const auto file = console.Folder() / Installation::RegistryFile;
+  const std::string garbled = "[HKEY_LOCAL_MACHINE\n\"cut short";
+  Overwrite(file, garbled);
+  console.Host.OnModal("frmBegin", [](ui::Form& form) { form.CloseBox(); });
+  console.Host.OnBox("Run-time error '13':\n\nType mismatch");
+  EXPECT_EQ(1, RunConsole(console.Ports, [] { return 0; }));
+  std::ifstream kept(file, std::ios::binary);
+  EXPECT_EQ(garbled, std::string(std::istreambuf_iterator<char>(kept), {}));
+}
+
+TEST(Start, AnObjectThatCannotBeMadeEndsTheProgram) {
+  TestConsole console;
+  console.Ports.CreateChannelReader = []() -> std::unique_ptr<ChannelReader> {
+    throw RuntimeError(errors::CannotCreateObject, "ActiveX component can't create object");
+  };
+  console.Host.OnBox("Run-time error '429':\n\nActiveX component can't create object");
+  EXPECT_EQ(1, RunConsole(console.Ports, [] { return 0; }));
+  EXPECT_TRUE(console.Host.Shown.empty());
 }
 
 }  // namespace

@@ -58,6 +58,9 @@ class ScriptedHost : public ui::UiHost {
   void Shut(ui::TreeView& tree, ui::NodeId node);
   void Drop(ui::Control& source, ui::Control& target);
 
+  /// The form shown last.
+  ui::Form& Top() { return *shownForms_.back(); }
+
   /// Lets virtual time pass and runs the timers of shown forms that come due.
   void Pass(int milliseconds);
 
