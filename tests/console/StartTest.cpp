@@ -4,6 +4,7 @@
 #include "core/Settings.h"
 #include "core/console/frmBegin.h"
 #include "platform/RuntimeError.h"
+#include "sqlite/StoreHelpers.h"
 #include "support/TestConsole.h"
 
 namespace corvane::test {
@@ -126,6 +127,35 @@ TEST(Start, AStoreThatCannotBeOpenedLeavesEmptyListsAndSaysNothing) {
     EXPECT_EQ("frmCVMain", console.Host.Shown.back());
     EXPECT_EQ(std::string(content) != "missing", std::filesystem::exists(file));
   }
+}
+
+TEST(Start, AStoreHeldByAnotherProcessLeavesEmptyListsUntilItIsFree) {
+  TestConsole console;
+  const auto file = console.Folder() / Installation::DatabaseFile;
+  console.Rows("INSERT INTO RegisteredServers VALUES ('MERA1', 'MERIDIAN', 'MERA', 1, 0, 0, 0, 0)");
+  OtherProcess service([&](OtherProcess& self) {
+    sqlite3* engine = nullptr;
+    sqlite3_open(file.c_str(), &engine);
+    const char* hold = "PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE; DELETE FROM SyslogDevices";
+    self.Tell(sqlite3_exec(engine, hold, nullptr, nullptr, nullptr));
+    self.Wait();
+  });
+  ASSERT_EQ(SQLITE_OK, service.Hear());
+  console.Start();
+  EXPECT_EQ("0 log(s) watched by Corvane", console.Window().stbMain.Panels[0].Text);
+  EXPECT_EQ("MERIDIAN", console.Window().lstDomain.Text());
+  service.Kill();
+  console.Host.Click(console.Window().mnuViewRefresh);
+  EXPECT_EQ("ok\n", console.Rows("PRAGMA integrity_check"));
+  EXPECT_EQ("1\n", console.Rows("SELECT COUNT(*) FROM RegisteredServers"));
+}
+
+TEST(Start, AMissingPathOfTheStoreIsMetLikeAMissingStore) {
+  TestConsole console;
+  console.App.State().Registry.DeleteKeyValue(SettingsKey, "ConfigMDBPath");
+  console.Start();
+  EXPECT_EQ("0 log(s) watched by Corvane", console.Window().stbMain.Panels[0].Text);
+  EXPECT_EQ("MERIDIAN", console.Window().lstDomain.Text());
 }
 
 // Without its settings the console takes this for a first run, and ends where a setting must be there.
