@@ -27,7 +27,7 @@ int LockUntil(int file, Clock::time_point limit) {
 }  // namespace
 
 FileLock::FileLock(const std::filesystem::path& path, Missing missing) {
-  const auto limit = Clock::now() + std::chrono::seconds(5);
+  const auto limit = Clock::now() + std::chrono::seconds(2);
   const int flags = O_RDWR | O_CLOEXEC | O_NONBLOCK | (missing == Missing::IsMade ? O_CREAT : 0);
   while (true) {
     file_ = ::open(path.c_str(), flags, 0666);

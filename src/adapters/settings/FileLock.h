@@ -10,7 +10,7 @@ class FileLock {
  public:
   enum class Missing { Fails, IsMade };
 
-  /// Waits up to five seconds for the file. The file must be writable.
+  /// Waits up to two seconds for the file. The file must be writable.
   FileLock(const std::filesystem::path& path, Missing missing);
   FileLock(const FileLock&) = delete;
   FileLock& operator=(const FileLock&) = delete;

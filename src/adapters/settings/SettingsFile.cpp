@@ -77,7 +77,7 @@ void SetExactTime(int file) {
 
 // Not every file system can do it, and the change stands by then.
 void SyncFolder(const std::filesystem::path& folder) {
-  const Descriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  const Descriptor opened(::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (opened.IsOpen()) ::fsync(opened.Get());
 }
 

@@ -1,0 +1,72 @@
+#include "core/PrivateProfile.h"
+
+#include <gtest/gtest.h>
+
+#include "adapters/linux/LinuxFiles.h"
+#include "adapters/settings/IniFiles.h"
+#include "support/TempFolder.h"
+
+namespace corvane {
+namespace {
+
+class PrivateProfileTest : public testing::Test {
+ protected:
+  PrivateProfileTest() { Profile.FileName = "a.ini"; }
+
+  test::TempFolder Folder;
+  PathMap Paths = [this](const std::string& path) { return Folder.Path() / path; };
+  IniFiles Profiles{Paths};
+  LinuxFiles Disk{Paths};
+  PrivateProfile Profile{Profiles, Disk};
+};
+
+TEST_F(PrivateProfileTest, ReadsValuesOfUpTo509Characters) {
+  const std::pair<std::size_t, bool> cases[] = {{0, false},   {1, true},    {509, true},
+                                                {510, false}, {511, false}, {600, false}};
+  for (const auto& [length, isRead] : cases) {
+    const std::string text(length, 'x');
+    EXPECT_TRUE(Profile.WriteString("Alarms", "AlarmInfo1", text));
+    std::string value = "before";
+    EXPECT_EQ(Profile.GetStringValue("Alarms", "AlarmInfo1", value), isRead) << length;
+    EXPECT_EQ(value, isRead ? text : "") << length;
+  }
+  std::string value = "before";
+  EXPECT_FALSE(Profile.GetStringValue("Alarms", "AlarmInfo2", value));
+  EXPECT_EQ(value, "");
+}
+
+TEST_F(PrivateProfileTest, AMissingNumberLeavesWhatCameIn) {
+  EXPECT_TRUE(Profile.WriteString("General", "NumComputers", "3"));
+  int value = 7;
+  EXPECT_TRUE(Profile.GetIntValue("General", "Missing", value));
+  EXPECT_EQ(value, 7);
+  EXPECT_TRUE(Profile.GetIntValue("general", "numcomputers", value));
+  EXPECT_EQ(value, 3);
+}
+
+TEST_F(PrivateProfileTest, CountsTheEqualsSignsWithinTheBuffer) {
+  EXPECT_EQ(Profile.GetSectionSize("Alarms"), 0);
+  Profile.WriteString("Alarms", "AlarmInfo1", "a");
+  Profile.WriteString("Alarms", "AlarmInfo2", "a=b");
+  EXPECT_EQ(Profile.GetSectionSize("Alarms"), 3);
+  // 600 lines of 100 characters, each with its zero: 297 signs lie in the first 29998 characters.
+  std::string text = "[Alarms]\r\n";
+  for (int i = 1000; i < 1600; ++i) text += std::to_string(i) + "=" + std::string(95, 'x') + "\r\n";
+  Folder.Write("a.ini", text);
+  EXPECT_EQ(Profile.GetSectionSize("Alarms"), 297);
+}
+
+TEST_F(PrivateProfileTest, CreatingTheFileEmptiesIt) {
+  EXPECT_TRUE(Profile.CreateINIFile());
+  EXPECT_TRUE(std::filesystem::exists(Folder.Path() / "a.ini"));
+  EXPECT_TRUE(Profile.WriteString("A", "k", "1"));
+  EXPECT_TRUE(Profile.CreateINIFile());
+  EXPECT_EQ(Folder.Read("a.ini"), "");
+  EXPECT_EQ(Profile.GetSectionSize("A"), 0);
+  Profile.FileName = "no/folder/a.ini";
+  EXPECT_FALSE(Profile.CreateINIFile());
+  EXPECT_FALSE(Profile.WriteString("A", "k", "1"));
+}
+
+}  // namespace
+}  // namespace corvane

@@ -1,0 +1,224 @@
+#include "adapters/settings/IniFiles.h"
+
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <random>
+
+#include "settings/ChildProcess.h"
+#include "support/TempFolder.h"
+
+namespace corvane {
+namespace {
+
+using namespace std::string_literals;
+
+class IniFilesTest : public testing::Test {
+ protected:
+  IniFiles Open() {
+    return IniFiles([this](const std::string& path) { return Folder.Path() / path; });
+  }
+
+  std::string Get(const std::string& section, const std::string& key, const std::string& fallback = "-") {
+    std::string value;
+    Profiles.GetString(section, key, fallback, value, 512, "a.ini");
+    return value;
+  }
+
+  bool Set(const std::string& section, const std::string& key, const std::string& value) {
+    return Profiles.WriteString(section, key, value, "a.ini");
+  }
+
+  test::TempFolder Folder;
+  IniFiles Profiles = Open();
+};
+
+TEST_F(IniFilesTest, FindsValues) {
+  Folder.Write(
+      "a.ini",
+      "\xEF\xBB\xBF[First] ; x\r\nkey=bom\r\nStray\r\n\r\n  [ Two words ]\n ; Key=comment\nKey = blanks around \t\n"
+      "key=second\nDouble=\"  x \"\rSingle='y'\nOdd=\"z'\nInner=a\"b\"\nQuote=\"\nEmpty=\nEq=a=b ; c\nBare\n"
+      "Nul=a\0b\nMüller=1\nUtf=M\xC3\xBC\nAnsi=M\xFC \x80\n[two WORDS]\nLate=1\n[Last]\nend=1"s);
+  const struct {
+    const char *Section, *Key, *Value;
+  } cases[] = {{"first", "KEY", "bom"},
+               {"First", "Stray", "-"},
+               {"Two words", " key ", "blanks around"},
+               {"TWO WORDS", "double", "  x "},
+               {"Two words", "Single", "y"},
+               {"Two words", "Odd", "\"z'"},
+               {"Two words", "Inner", "a\"b\""},
+               {"Two words", "Quote", "\""},
+               {"Two words", "Empty", ""},
+               {"Two words", "Eq", "a=b ; c"},
+               {"Two words", "Bare", "-"},
+               {"Two words", "; Key", "-"},
+               {"Two words", "MÜLLER", "1"},
+               {"Two words", "Utf", "Mü"},
+               {"Two words", "Ansi", "Mü €"},
+               {"Two words", "Late", "-"},
+               {"Last", "End", "1"},
+               {"Nothing", "Key", "-"},
+               {"", "Key", "-"}};
+  for (const auto& each : cases) EXPECT_EQ(Get(each.Section, each.Key), each.Value) << each.Section << "|" << each.Key;
+  EXPECT_EQ(Get("Two words", "Nul"), "a\0b"s);
+}
+
+TEST_F(IniFilesTest, CutsValuesToTheBuffer) {
+  Folder.Write("a.ini", "[A]\nLong=" + std::string(600, 'x') + "\nAnsi=" + std::string(511, '\xE4') + "\nShort=ab\n");
+  std::string value;
+  EXPECT_EQ(Profiles.GetString("A", "Long", "", value, 512, "a.ini"), 511U);
+  EXPECT_EQ(value, std::string(511, 'x'));
+  EXPECT_EQ(Profiles.GetString("A", "Ansi", "", value, 512, "a.ini"), 511U);
+  EXPECT_EQ(value.size(), 1022U);
+  EXPECT_EQ(Profiles.GetString("A", "Short", "", value, 3, "a.ini"), 2U);
+  EXPECT_EQ(Profiles.GetString("A", "None", "fallback", value, 5, "a.ini"), 4U);
+  EXPECT_EQ(value, "fall");
+  EXPECT_EQ(Profiles.GetString("A", "Short", "", value, 512, "none.ini"), 0U);
+}
+
+TEST_F(IniFilesTest, ReadsNumbersUpToTheFirstOddCharacter) {
+  const std::pair<const char*, int> cases[] = {
+      {"12", 12}, {"12abc", 12}, {"-7", -7}, {"+3", 3},         {"'5'", 5},
+      {"abc", 0}, {"", 0},       {"1.9", 1}, {"4294967297", 1}, {"2147483648", INT_MIN}};
+  for (const auto& [text, number] : cases) {
+    Folder.Write("a.ini", "[A]\nN=" + std::string(text) + "\n");
+    EXPECT_EQ(Profiles.GetInt("A", "n", 99, "a.ini"), number) << text;
+  }
+  EXPECT_EQ(Profiles.GetInt("A", "Missing", 99, "a.ini"), 99);
+}
+
+TEST_F(IniFilesTest, ListsTheLinesOfASection) {
+  Folder.Write("a.ini", "[A]\r\n a = 1 \r\n;x=1\r\n\r\nbare\r\nq=\"x\"\r\ne=\r\nu=\xFC\r\n[B]\r\nb=2\r\n");
+  std::string lines;
+  EXPECT_EQ(Profiles.GetSection("a", lines, 30000, "a.ini"), 22U);
+  EXPECT_EQ(lines, "a=1\0bare\0q=\"x\"\0e=\0u=ü\0"s);
+  EXPECT_EQ(Profiles.GetSection("A", lines, 8, "a.ini"), 6U);
+  EXPECT_EQ(lines, "a=1\0ba"s);
+  EXPECT_EQ(Profiles.GetSection("C", lines, 30000, "a.ini"), 0U);
+  EXPECT_EQ(lines, "");
+}
+
+TEST_F(IniFilesTest, ChangesNothingButTheValueThatIsWritten) {
+  const struct {
+    std::string Before, Section, Key, Value, After;
+  } cases[] = {
+      {"", "A", "k", "v", "[A]\r\nk=v\r\n"},
+      {"[A]\n Key =\told ;x\n\n;c\n[B]\r\nk=1", "a", "KEY", "new", "[A]\n Key =new\n\n;c\n[B]\r\nk=1"},
+      {"[A]\nk=1\n\n \n[B]\n", "A", "n", "2", "[A]\nk=1\nn=2\r\n\n \n[B]\n"},
+      {"[A]\nk=1\n;c\n\n[B]\n", "A", "n", "2", "[A]\nk=1\n;c\nn=2\r\n\n[B]\n"},
+      {"[A]\n[B]\n", "A", "n", "2", "[A]\nn=2\r\n[B]\n"},
+      {"[A]\nk=1", "A", "n", "2", "[A]\nk=1\r\nn=2\r\n"},
+      {"[A]", "B", "n", "2", "[A]\r\n[B]\r\nn=2\r\n"},
+      {"k=0\r\n\r\n", "", "k", "1", "k=0\r\n\r\n[]\r\nk=1\r\n"},
+      {"\xEF\xBB\xBF[A]\nk=1\n", "A", "k", "2", "\xEF\xBB\xBF[A]\nk=2\n"},
+      {"x\0y\n[A]\rk=1\r\xFF"s, "A", "k", "", "x\0y\n[A]\rk=\r\xFF"s},
+      {"[A]\nk=1\nk=2\n[A]\nk=3\n", "A", "k", "9", "[A]\nk=9\nk=2\n[A]\nk=3\n"},
+      {"[A]\nk=1\n", "A", "k", "Mü €", "[A]\nk=M\xFC \x80\n"},
+      {"[A]\nk=1\n", "Ä", "ö", "Сервер", "[A]\nk=1\n[\xC4]\r\n\xF6=Сервер\r\n"},
+      {"[A]\nk=1\n", "A", "k", "Ã¼", "[A]\nk=Ã¼\n"},
+      {"[A]\nk=1\n", "A", "k", "a\0b"s, "[A]\nk=a\n"},
+  };
+  for (const auto& each : cases) {
+    Folder.Write("a.ini", each.Before);
+    EXPECT_TRUE(Set(each.Section, each.Key, each.Value)) << each.Before;
+    EXPECT_EQ(Folder.Read("a.ini"), each.After) << each.Before;
+    EXPECT_EQ(Get(each.Section, each.Key), each.Value.c_str()) << each.Before;
+  }
+}
+
+TEST_F(IniFilesTest, AValueWithALineBreakIsReadUpToTheBreak) {
+  EXPECT_TRUE(Set("A", "k", "one\r\n[B]\r\nx=two"));
+  EXPECT_TRUE(Set("A", "n", "1"));
+  EXPECT_EQ(Get("A", "k"), "one");
+  EXPECT_EQ(Get("B", "x"), "two");
+  EXPECT_EQ(Folder.Read("a.ini"), "[A]\r\nk=one\r\nn=1\r\n[B]\r\nx=two\r\n");
+}
+
+TEST_F(IniFilesTest, ManyKeysStayInTheirOrderAndAllCanBeFound) {
+  std::string expected = "[A]\r\n";
+  for (int i = 0; i < 100; ++i) {
+    const std::string key = std::to_string(i) + "Name";
+    ASSERT_TRUE(Set("A", key, std::to_string(i)));
+    expected += key + "=" + std::to_string(i) + "\r\n";
+  }
+  EXPECT_EQ(Folder.Read("a.ini"), expected);
+  IniFiles fresh = Open();
+  for (int i = 0; i < 100; ++i) EXPECT_EQ(fresh.GetInt("a", std::to_string(i) + "NAME", -1, "a.ini"), i);
+}
+
+TEST_F(IniFilesTest, SeesWhatOthersDoToTheFile) {
+  Set("A", "k", "1");
+  IniFiles other = Open();
+  for (const char* text : {"2", "3", "4", "5"}) {
+    EXPECT_TRUE(other.WriteString("A", "k", text, "a.ini"));
+    EXPECT_EQ(Get("A", "k"), text);
+  }
+  Folder.Write("a.ini", "");
+  EXPECT_EQ(Get("A", "k"), "-");
+  EXPECT_TRUE(Set("A", "n", "1"));
+  EXPECT_EQ(Folder.Read("a.ini"), "[A]\r\nn=1\r\n");
+  std::filesystem::remove(Folder.Path() / "a.ini");
+  EXPECT_EQ(Get("A", "n"), "-");
+}
+
+TEST_F(IniFilesTest, ProcessesThatWriteAtTheSameTimeLoseNothing) {
+  std::vector<pid_t> children;
+  for (int child = 0; child < 3; ++child)
+    children.push_back(test::StartChild([&] {
+      for (int i = 0; i < 50; ++i) Set("A", std::to_string(child) + "_" + std::to_string(i), "x");
+    }));
+  for (const pid_t child : children) ::waitpid(child, nullptr, 0);
+  for (int child = 0; child < 3; ++child)
+    for (int i = 0; i < 50; ++i) EXPECT_EQ(Get("A", std::to_string(child) + "_" + std::to_string(i)), "x");
+}
+
+TEST_F(IniFilesTest, AWriterKilledAtAnyMomentLeavesTheStateBeforeOrAfter) {
+  std::mt19937 random(20260102);
+  const std::string rest = "[B]\r\nk=" + std::string(100000, 'x') + "\r\n";
+  Folder.Write("a.ini", "[A]\r\nn=0\r\n" + rest);
+  int last = 0;
+  for (int round = 0; round < 30; ++round) {
+    const pid_t child = test::StartChild([&] {
+      for (int n = last + 1;; ++n) Set("A", "n", std::to_string(n));
+    });
+    ::usleep(std::uniform_int_distribution<useconds_t>(0, 8000)(random));
+    ::kill(child, SIGKILL);
+    ::waitpid(child, nullptr, 0);
+    const int n = Profiles.GetInt("A", "n", -1, "a.ini");
+    ASSERT_GE(n, last);
+    ASSERT_EQ(Folder.Read("a.ini"), "[A]\r\nn=" + std::to_string(n) + "\r\n" + rest);
+    last = n;
+  }
+  EXPECT_GT(last, 0);
+}
+
+TEST_F(IniFilesTest, AWriteThatFailsLosesNothing) {
+  Set("A", "k", "1");
+  const auto file = Folder.Path() / "a.ini";
+  const std::string before = Folder.Read("a.ini");
+  EXPECT_EQ(test::WithFullDisk(1000,
+                               [&]() -> long {
+                                 return !Set("A", "k", std::string(2000, 'x')) && Get("A", "k") == "1" &&
+                                        Set("A", "n", "2") && Set("A", "n", "");
+                               }),
+            1);
+  EXPECT_EQ(Folder.Read("a.ini"), before + "n=\r\n");
+
+  ASSERT_EQ(::chmod(file.c_str(), 0444), 0);
+  ASSERT_EQ(::chmod(Folder.Path().c_str(), 0777), 0);
+  EXPECT_EQ(test::AsNobody([&]() -> long { return !Set("A", "k", "2") && Get("A", "k") == "1"; }), 1);
+  ASSERT_EQ(::chmod(file.c_str(), 0666), 0);
+  ASSERT_EQ(::chmod(Folder.Path().c_str(), 0555), 0);
+  EXPECT_EQ(test::AsNobody([&]() -> long { return !Set("A", "k", "2") && Get("A", "k") == "1"; }), 1);
+  ASSERT_EQ(::chmod(Folder.Path().c_str(), 0700), 0);
+  EXPECT_EQ(Folder.Read("a.ini"), before + "n=\r\n");
+  EXPECT_FALSE(Profiles.WriteString("A", "k", "2", "no/folder/a.ini"));
+  EXPECT_FALSE(Profiles.WriteString("A", "k", "2", "."));
+}
+
+}  // namespace
+}  // namespace corvane
