@@ -1,0 +1,41 @@
+#include "adapters/qt/FormRegistry.h"
+
+#include "platform/RuntimeError.h"
+#include "ui_frmBegin.h"
+#include "ui_frmCVMain.h"
+#include "ui_frmLogEdit.h"
+#include "ui_frmStartup.h"
+
+namespace corvane::qt {
+namespace {
+
+template <class Placement>
+void Place(QWidget& content) {
+  Placement().setupUi(&content);
+}
+
+}  // namespace
+
+FormRegistry FormRegistry::Console() {
+  FormRegistry forms;
+  forms.Add("frmBegin", {Place<Ui::frmBegin>});
+  forms.Add("frmCVMain", {Place<Ui::frmCVMain>});
+  forms.Add("frmLogEdit", {Place<Ui::frmLogEdit>});
+  forms.Add("frmStartup", {Place<Ui::frmStartup>, WindowFrame::None});
+  return forms;
+}
+
+const FormEntry& FormRegistry::At(std::string_view name) const {
+  const auto found = entries_.find(name);
+  if (found == entries_.end())
+    throw RuntimeError(errors::ElementNotFound, "No placement for the form " + std::string(name));
+  return found->second;
+}
+
+std::vector<std::string> FormRegistry::Names() const {
+  std::vector<std::string> names;
+  for (const auto& entry : entries_) names.push_back(entry.first);
+  return names;
+}
+
+}  // namespace corvane::qt

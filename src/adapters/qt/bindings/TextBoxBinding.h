@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string>
+
+#include "adapters/qt/bindings/Binding.h"
+#include "platform/ui/SimpleControls.h"
+
+class QLineEdit;
+class QPlainTextEdit;
+
+namespace corvane::qt {
+
+/// A text box of one line.
+class LineBinding : public Binding {
+ public:
+  LineBinding(FormView& view, ui::TextBox& control, QLineEdit* line);
+
+ protected:
+  void Update() override;
+
+ private:
+  ui::TextBox& control_;
+  QLineEdit* line_;
+};
+
+/// A text box of several lines.
+class TextBinding : public Binding {
+ public:
+  TextBinding(FormView& view, ui::TextBox& control, QPlainTextEdit* text);
+
+ protected:
+  void Update() override;
+
+ private:
+  ui::TextBox& control_;
+  QPlainTextEdit* text_;
+  /// What the widget shows, as the control has it: the widget keeps line breaks in its own way.
+  std::string shown_;
+};
+
+}  // namespace corvane::qt

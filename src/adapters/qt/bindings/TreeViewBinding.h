@@ -1,0 +1,27 @@
+#pragma once
+
+#include "adapters/qt/bindings/ItemViewBinding.h"
+#include "adapters/qt/bindings/TreeViewModel.h"
+
+namespace corvane::qt {
+
+class TreeViewBinding : public ItemViewBinding {
+ public:
+  TreeViewBinding(FormView& view, ui::TreeView& control, QTreeView* tree);
+
+ protected:
+  void Update() override;
+
+ private:
+  void UpdateBranches();
+  void UpdateSelection();
+  void CurrentChanged(const QModelIndex& current);
+  void Branched(const QModelIndex& index, bool expanded);
+  void FireNodeClick(const QModelIndex& index);
+
+  ui::TreeView& control_;
+  TreeViewModel model_;
+  unsigned structure_ = 0;
+};
+
+}  // namespace corvane::qt
