@@ -9,7 +9,10 @@ class RecordingConnection : public Connection {
  public:
   RecordingConnection(RecordingData& data) : data_(data), real_(data.Real.NewConnection()) {}
 
-  void Open(const std::string& connectionString) override { real_->Open(connectionString); }
+  void Open(const std::string& connectionString) override {
+    data_.Tried.push_back(connectionString);
+    real_->Open(connectionString);
+  }
   void Close() override { real_->Close(); }
   ObjectState State() const override { return real_->State(); }
   std::unique_ptr<Recordset> Execute(const std::string& sql) override {

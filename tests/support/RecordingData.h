@@ -20,6 +20,8 @@ class RecordingData : public DataProvider {
   /// Every statement run and every recordset opened since the last `Forget`.
   std::vector<std::string> Statements;
   void Forget() { Statements.clear(); }
+  /// Every string that a connection was to be opened with.
+  std::vector<std::string> Tried;
   /// Those of the statements that change rows.
   std::vector<std::string> Changes() const;
 
