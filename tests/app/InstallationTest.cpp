@@ -212,7 +212,7 @@ TEST_F(InstallationTest, AFailureLeavesNothingBehind) {
   const fs::path data = place_.Path() / "data";
   const auto failure = [&] { return LayOut(folder_, Installation::Kind::Lab, data); };
   EXPECT_EQ(failure(), "the data folder " + data.string() + " does not exist");
-  fs::copy(shipped, data);
+  fs::copy(shipped, data, fs::copy_options::recursive);
   const std::pair<std::string, std::string> spoilt[] = {{"catalogue.txt", "catalogue.txt:1: 'no' is no keyword"},
                                                         {"settings.reg", "settings.reg is no registry file"},
                                                         {"schema.sql", "near \"no\""},
@@ -227,6 +227,8 @@ TEST_F(InstallationTest, AFailureLeavesNothingBehind) {
       << "CREATE TRIGGER Full BEFORE INSERT ON Alarms BEGIN SELECT RAISE(ROLLBACK, 'no room left'); END;";
   EXPECT_NE(failure().find("no room left"), std::string::npos) << failure();
   fs::copy_file(shipped / "schema.sql", data / "schema.sql", fs::copy_options::overwrite_existing);
+  fs::remove_all(data / "help");
+  EXPECT_EQ(failure(), (data / "help").string() + " cannot be copied: No such file or directory");
   fs::remove(data / "platform.ini");
   EXPECT_EQ(failure(), (data / "platform.ini").string() + " cannot be read: No such file or directory");
   EXPECT_EQ(LayOut("/proc/corvane/inner", Installation::Kind::Lab),

@@ -71,6 +71,7 @@ void Installation::Fill(const fs::path& folder, Kind kind) const {
   MakeDatabase(folder);
   CopyFile(PlatformFile, folder);
   CopyFile(LabFile, folder);
+  CopyHelp(folder);
   for (const char* name : {RegistryFolder, RapidConfigFolder, AgentConfigFolder}) fs::create_directory(folder / name);
   MakeRegistries(folder, *LabNetwork(folder / LabFile).Model(), kind);
 }
@@ -105,6 +106,12 @@ void Installation::MakeRegistries(const fs::path& folder, const LabModel& lab, K
 
 void Installation::CopyFile(const char* name, const fs::path& folder) const {
   WriteTextFile(folder / name, ReadTextFile(data_ / name));
+}
+
+void Installation::CopyHelp(const fs::path& folder) const {
+  std::error_code error;
+  fs::copy(data_ / HelpFolder, folder / HelpFolder, fs::copy_options::recursive, error);
+  if (error) throw InstallationError((data_ / HelpFolder).string() + " cannot be copied: " + error.message());
 }
 
 }  // namespace corvane

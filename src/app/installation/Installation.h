@@ -21,8 +21,9 @@ class Installation {
   static constexpr const char* RegistryFolder = "registry";
   static constexpr const char* RapidConfigFolder = "RapidConfigs";
   static constexpr const char* AgentConfigFolder = "AgentConfigs";
+  static constexpr const char* HelpFolder = "help";
 
-  /// `data` is the folder with the shipped schema, catalogue, settings and lab network.
+  /// `data` is the folder with the shipped schema, catalogue, settings, lab network and help pages.
   explicit Installation(std::filesystem::path data);
 
   /// Lays out an installation in a folder that is missing or empty. Raises `InstallationError`, with nothing left
@@ -34,6 +35,7 @@ class Installation {
   void MakeDatabase(const std::filesystem::path& folder) const;
   void MakeRegistries(const std::filesystem::path& folder, const LabModel& lab, Kind kind) const;
   void CopyFile(const char* name, const std::filesystem::path& folder) const;
+  void CopyHelp(const std::filesystem::path& folder) const;
 
   std::filesystem::path data_;
 };

@@ -1,0 +1,45 @@
+#include <gtest/gtest.h>
+
+#include "core/console/frmBegin.h"
+#include "core/console/frmCVMain.h"
+#include "logs/frmLogEdit.h"
+#include "support/TestConsole.h"
+
+namespace corvane::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string ReadPage(const fs::path& file) {
+  std::ostringstream bytes;
+  bytes << std::ifstream(file, std::ios::binary).rdbuf();
+  return bytes.str();
+}
+
+TEST(HelpPagesTest, EveryScreenHasItsPage) {
+  TestConsole console;
+  console.Start();
+  const frmBegin begin(console.App.State());
+  const frmLogEdit editor(console.App.State());
+  for (const ui::Form* form : std::initializer_list<const ui::Form*>{&begin, &console.Window(), &editor})
+    EXPECT_TRUE(fs::exists(console.Folder() / "help" / (std::to_string(form->HelpContext) + ".html"))) << form->Name();
+}
+
+// The help window opens nothing outside its folder, so a link elsewhere would lead nowhere.
+TEST(HelpPagesTest, EveryLinkLeadsToAFileOfTheFolder) {
+  const TestConsole console;
+  const fs::path help = console.Folder() / "help";
+  EXPECT_TRUE(fs::exists(help / "index.html"));
+  for (const auto& page : fs::directory_iterator(help)) {
+    const std::string text = ReadPage(page);
+    for (const std::string attribute : {"href=\"", "src=\""})
+      for (std::size_t at = text.find(attribute); at != text.npos; at = text.find(attribute, at)) {
+        at += attribute.size();
+        const std::string target = text.substr(at, text.find_first_of("\"#", at) - at);
+        EXPECT_TRUE(fs::exists(help / target)) << page.path() << " names " << target;
+      }
+  }
+}
+
+}  // namespace
+}  // namespace corvane::test
