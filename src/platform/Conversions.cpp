@@ -1,7 +1,9 @@
 #include "platform/Conversions.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstddef>
 #include <limits>
 
 #include "platform/RuntimeError.h"
@@ -38,13 +40,29 @@ std::size_t NumberLength(std::string_view text) {
   return at;
 }
 
+// Whether a number that no double can hold lies too near to 0: its first digit that counts stands behind the point.
+bool IsTiny(std::string_view number) {
+  const std::size_t mantissa = std::min(number.find_first_of("eE"), number.size());
+  const std::size_t point = std::min(number.find('.'), mantissa);
+  const std::size_t first = number.find_first_of("123456789");
+  if (first >= mantissa) return true;
+  const auto places = static_cast<std::ptrdiff_t>(point) - static_cast<std::ptrdiff_t>(first);
+  int exponent = 0;
+  if (mantissa < number.size()) {
+    number.remove_prefix(mantissa + (number[mantissa + 1] == '+' ? 2 : 1));
+    const auto status = std::from_chars(number.data(), number.data() + number.size(), exponent).ec;
+    if (status == std::errc::result_out_of_range) return number.front() == '-';
+  }
+  return places + exponent < 0;
+}
+
 double ToDouble(std::string_view number) {
   if (!number.empty() && number.front() == '+') number.remove_prefix(1);
   double value = 0;
   const auto [end, status] = std::from_chars(number.data(), number.data() + number.size(), value);
   if (status != std::errc::result_out_of_range) return value;
-  const bool tiny = number.find("e-") != number.npos || number.find("E-") != number.npos;
-  return tiny ? 0.0 : (number.front() == '-' ? -1 : 1) * std::numeric_limits<double>::infinity();
+  if (IsTiny(number)) return 0;
+  return (number.front() == '-' ? -1 : 1) * std::numeric_limits<double>::infinity();
 }
 
 // The Latin-1 letters of UTF-8 have the lead byte C3; their capitals lie 20 hexadecimal below. The division sign is

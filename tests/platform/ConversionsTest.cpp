@@ -1,0 +1,160 @@
+#include "platform/Conversions.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "platform/RuntimeError.h"
+#include "platform/data/Value.h"
+
+namespace corvane::test {
+namespace {
+
+const std::string Zeros(400, '0');
+
+/// The work's result as text, or the number of its error.
+template <class Work>
+std::string Outcome(Work work) {
+  try {
+    return std::to_string(work());
+  } catch (const RuntimeError& error) {
+    return "error " + std::to_string(error.Number);
+  }
+}
+
+TEST(Conversions, RoundHalvesToEvenAndOverflowWithAnError) {
+  struct {
+    const char *Text, *Outcome;
+  } const cases[] = {
+      {"7", "7"},
+      {" -7 ", "-7"},
+      {"+.5", "0"},
+      {"1.5", "2"},
+      {"2.5", "2"},
+      {"-2.5", "-2"},
+      {"-3.5", "-4"},
+      {"1.", "1"},
+      {"1e3", "1000"},
+      {"1E+3", "1000"},
+      {"15e-1", "2"},
+      {"2147483647", "2147483647"},
+      {"2147483647.4", "2147483647"},
+      {"2147483647.5", "error 6"},
+      {"-2147483648.5", "-2147483648"},
+      {"-2147483649", "error 6"},
+      {"1e999", "error 6"},
+      {"-1e999", "error 6"},
+      {"1e-999", "0"},
+      {"0e999", "0"},
+      {"", "error 13"},
+      {" ", "error 13"},
+      {"-", "error 13"},
+      {".", "error 13"},
+      {"e5", "error 13"},
+      {"1e", "error 13"},
+      {"1 2", "error 13"},
+      {"--1", "error 13"},
+      {"0x10", "error 13"},
+      {"1,5", "error 13"},
+      {"nan", "error 13"},
+      {"inf", "error 13"},
+      {"7\n", "error 13"},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(c.Outcome, Outcome([&] { return TextToInt32(c.Text); })) << c.Text;
+    EXPECT_EQ(std::string(c.Outcome) != "error 13", IsNumeric(c.Text)) << c.Text;
+  }
+  EXPECT_EQ("error 6", Outcome([] { return RoundToInt32(std::nan("")); }));
+}
+
+TEST(Conversions, KnowNumbersTooSmallFromNumbersTooLarge) {
+  EXPECT_EQ(0, ParseNumber("0." + Zeros + "1"));
+  EXPECT_EQ(0, ParseNumber("0." + Zeros + "1e9"));
+  EXPECT_EQ(0, ParseNumber("-1e-99999999999999999999"));
+  EXPECT_EQ(1, ParseNumber("1" + Zeros + "e-400"));
+  EXPECT_EQ(INFINITY, ParseNumber("1" + Zeros + "e-4"));
+  EXPECT_EQ(-INFINITY, ParseNumber("-" + Zeros + "1e400"));
+  EXPECT_EQ(INFINITY, ParseNumber("1e99999999999999999999"));
+}
+
+TEST(Conversions, ReadUpToTheFirstOddCharacter) {
+  struct {
+    std::string Text;
+    double Number;
+  } const cases[] = {
+      {"", 0},
+      {"12 apples", 12},
+      {" 1 2\t3\n", 123},
+      {"1.0", 1},
+      {"1.4.4", 1.4},
+      {"-.5x", -0.5},
+      {"abc", 0},
+      {"-", 0},
+      {"1e", 1},
+      {"1e+x", 1},
+      {"2e2", 200},
+      {"$5", 0},
+      {std::string("1\0"
+                   "9",
+                   3),
+       1},
+  };
+  for (const auto& c : cases) EXPECT_EQ(c.Number, Val(c.Text)) << c.Text;
+}
+
+TEST(Conversions, CompareWithoutCaseUpToLatinLetters) {
+  EXPECT_EQ("ÀÖØÞ÷ßÿ€Z", UpperCase("àöøþ÷ßÿ€z"));
+  EXPECT_EQ("\xC3", UpperCase("\xC3"));
+  // 0xA4 is a letter behind the lead byte C3 alone.
+  EXPECT_EQ("\xE2\xA4", UpperCase("\xE2\xA4"));
+  EXPECT_TRUE(SameText("Müller", "MÜLLER"));
+  EXPECT_FALSE(SameText("abc", "abcd"));
+  EXPECT_LT(CompareText("abc", "ABD"), 0);
+  EXPECT_GT(CompareText("b", "A"), 0);
+  EXPECT_LT(CompareText("AB", "abc"), 0);
+  // Underscore stands behind the capitals, so it does behind the small letters too.
+  EXPECT_GT(CompareText("_", "z"), 0);
+  EXPECT_LT(CompareText("z", "\xC3\xA4"), 0);
+  EXPECT_EQ("a b", Trim("  a b "));
+  EXPECT_EQ("\ta", Trim(" \ta"));
+  EXPECT_EQ("", Trim("   "));
+}
+
+TEST(Conversions, FillUpWithZeros) {
+  EXPECT_EQ("0007", PadZero(7, 4));
+  EXPECT_EQ("12345", PadZero(12345, 4));
+  EXPECT_EQ("-07", PadZero(-7, 2));
+  EXPECT_EQ("0", PadZero(0, 0));
+}
+
+TEST(Values, AreReadAsTextNumberAndBoolean) {
+  struct {
+    Value Stored;
+    const char *Text, *Number, *Flag;
+  } const cases[] = {
+      {{}, "error 94", "error 94", "error 94"},
+      {std::int64_t{0}, "0", "0", "0"},
+      {std::int64_t{-5}, "-5", "-5", "1"},
+      {std::int64_t{2147483648}, "2147483648", "error 6", "1"},
+      {2.5, "2.5", "2", "1"},
+      {0.1, "0.1", "0", "1"},
+      {-0.5, "-0.5", "0", "1"},
+      {true, "True", "-1", "1"},
+      {false, "False", "0", "0"},
+      {std::string("tRUE"), "tRUE", "error 13", "1"},
+      {std::string("False"), "False", "error 13", "0"},
+      {std::string("3.5"), "3.5", "4", "1"},
+      {std::string(), "", "error 13", "error 13"},
+      {std::string("1e10"), "1e10", "error 6", "error 6"},
+  };
+  for (const auto& c : cases) {
+    std::string text;
+    const std::string failed = Outcome([&] { return static_cast<int>((text = ToText(c.Stored)).size()); });
+    EXPECT_EQ(c.Text, failed.starts_with("error") ? failed : text);
+    EXPECT_EQ(c.Number, Outcome([&] { return ToNumber(c.Stored); })) << c.Text;
+    EXPECT_EQ(c.Flag, Outcome([&] { return static_cast<int>(ToBoolean(c.Stored)); })) << c.Text;
+  }
+}
+
+}  // namespace
+}  // namespace corvane::test
