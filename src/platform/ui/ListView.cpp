@@ -88,12 +88,18 @@ int ListView::SelectedRow() const {
 }
 
 void ListView::SortBy(int column, SortOrder order) {
+  EnsureOrder();
   sorted_ = true;
   sortColumn_ = column;
   order_ = order;
   outOfOrder_ = true;
   ++structure_;
   ++selection_;
+}
+
+void ListView::Unsort() {
+  EnsureOrder();
+  sorted_ = false;
 }
 
 // Rows are put in order when somebody looks, so that filling a sorted list of many rows sorts once.

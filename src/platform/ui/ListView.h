@@ -60,8 +60,8 @@ class ListView : public Control {
 
   /// Sorts by a column from 0, without regard to case, and keeps the list sorted as rows come.
   void SortBy(int column, SortOrder order);
-  /// Leaves rows in the order in which they were added from now on.
-  void Unsort() { sorted_ = false; }
+  /// Keeps the order that the rows have; further ones come at the end.
+  void Unsort();
   bool Sorted() const { return sorted_; }
   int SortColumn() const { return sortColumn_; }
   SortOrder Order() const { return order_; }

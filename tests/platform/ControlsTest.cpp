@@ -1,0 +1,223 @@
+#include <gtest/gtest.h>
+
+#include "platform/RuntimeError.h"
+#include "support/ScriptedHost.h"
+
+namespace corvane::test {
+namespace {
+
+using Names = std::vector<std::string>;
+
+template <class Work>
+int ErrorOf(Work work) {
+  try {
+    work();
+  } catch (const RuntimeError& error) {
+    return error.Number;
+  }
+  return 0;
+}
+
+class Controls : public testing::Test {
+ protected:
+  ScriptedHost Host;
+  ui::Form Form{Host, "frmTest"};
+};
+
+class ListViewModel : public Controls {
+ protected:
+  void Fill(const Names& texts) {
+    for (const std::string& text : texts) List.Add({"k" + text, text, {text.substr(1)}, "", false});
+  }
+  Names Texts() const {
+    Names texts;
+    for (const ui::ListItem& item : List.Items()) texts.push_back(item.Text + (item.Selected ? "*" : ""));
+    return texts;
+  }
+
+  ui::ListView List{Form, "lvw"};
+};
+
+TEST_F(ListViewModel, SortsWithoutCaseAndLeavesEqualRowsInTheirOrder) {
+  Fill({"b2", "A1", "a2", "B1"});
+  List.SortBy(0, ui::SortOrder::Ascending);
+  EXPECT_EQ((Names{"A1", "a2", "B1", "b2"}), Texts());
+  List.SortBy(1, ui::SortOrder::Descending);
+  EXPECT_EQ((Names{"a2", "b2", "A1", "B1"}), Texts());
+  Fill({"c1", "c2"});
+  EXPECT_EQ((Names{"a2", "b2", "c2", "A1", "B1", "c1"}), Texts());
+  List.SortBy(5, ui::SortOrder::Ascending);
+  EXPECT_EQ((Names{"a2", "b2", "c2", "A1", "B1", "c1"}), Texts());
+}
+
+TEST_F(ListViewModel, KeepsTheOrderItHadWhetherOrNotSomebodyLooked) {
+  Fill({"b1", "a1"});
+  List.SortBy(0, ui::SortOrder::Ascending);
+  List.SortBy(1, ui::SortOrder::Ascending);
+  List.Unsort();
+  Fill({"A0"});
+  EXPECT_EQ((Names{"a1", "b1", "A0"}), Texts());
+}
+
+TEST_F(ListViewModel, MovesSelectionAndFocusWithTheirRow) {
+  Fill({"c1", "b1", "a1"});
+  List.Select(0);
+  List.Select(2);
+  List.SortBy(0, ui::SortOrder::Ascending);
+  EXPECT_EQ((Names{"a1*", "b1", "c1*"}), Texts());
+  EXPECT_EQ(0, List.SelectedRow());
+  EXPECT_EQ(2, List.SelectedCount());
+  List.SetMultiSelect(false);
+  EXPECT_EQ((Names{"a1*", "b1", "c1"}), Texts());
+  List.Select(1);
+  EXPECT_EQ((Names{"a1", "b1*", "c1"}), Texts());
+  List.Add({"", "d1", {}, "", true});
+  EXPECT_EQ((Names{"a1", "b1", "c1", "d1*"}), Texts());
+  EXPECT_EQ(3, List.SelectedRow());
+  List.Remove(0);
+  EXPECT_EQ(2, List.SelectedRow());
+  List.Remove(2);
+  EXPECT_EQ(-1, List.SelectedRow());
+  EXPECT_EQ(1, List.FocusRow());
+  List.Clear();
+  EXPECT_EQ(-1, List.FocusRow());
+}
+
+TEST_F(ListViewModel, RefusesAKeyTwiceUntilItsRowIsGone) {
+  Fill({"a1"});
+  EXPECT_EQ(errors::KeyNotUnique, ErrorOf([&] { Fill({"a1"}); }));
+  EXPECT_EQ(1, List.Count());
+  List.Add({});
+  List.Add({});
+  List.Remove(0);
+  Fill({"a1"});
+  List.Clear();
+  Fill({"a1"});
+  EXPECT_EQ(Names{"a1"}, Texts());
+  for (const int row : {-1, 1}) {
+    EXPECT_EQ(errors::IndexOutOfBounds, ErrorOf([&] { List.Item(row); }));
+    EXPECT_EQ(errors::IndexOutOfBounds, ErrorOf([&] { List.Select(row); }));
+    EXPECT_EQ(errors::IndexOutOfBounds, ErrorOf([&] { List.Remove(row); }));
+  }
+}
+
+TEST_F(Controls, TreeRemovesWholeBranchesAndTheirKeys) {
+  ui::TreeView tree{Form, "tv"};
+  const auto add = [&](ui::NodeId parent, const std::string& key) { return tree.Add(parent, key, key, ""); };
+  const ui::NodeId root = add(0, "root"), branch = add(root, "branch"), leaf = add(branch, "leaf"),
+                   other = add(root, "other");
+  add(other, "");
+  add(other, "");
+  EXPECT_EQ(errors::KeyNotUnique, ErrorOf([&] { add(other, "leaf"); }));
+  EXPECT_EQ(errors::ElementNotFound, ErrorOf([&] { add(99, "new"); }));
+  EXPECT_EQ(0, tree.Find("new"));
+  EXPECT_EQ((std::vector<ui::NodeId>{root, branch, leaf, other, 5, 6}), tree.InTreeOrder());
+
+  tree.Select(leaf);
+  const unsigned before = tree.StructureRevision();
+  tree.Remove(branch);
+  EXPECT_NE(before, tree.StructureRevision());
+  EXPECT_EQ(0, tree.Selected());
+  EXPECT_EQ(0, tree.Find("leaf"));
+  EXPECT_EQ(std::vector<ui::NodeId>{other}, tree.ChildrenOf(root));
+  EXPECT_EQ(4, tree.Count());
+  for (const ui::NodeId gone : {branch, leaf, 0}) {
+    EXPECT_EQ(errors::ElementNotFound, ErrorOf([&] { tree.Node(gone); }));
+    EXPECT_EQ(errors::ElementNotFound, ErrorOf([&] { tree.Remove(gone); }));
+  }
+  EXPECT_EQ(errors::ElementNotFound, ErrorOf([&] { tree.Select(leaf); }));
+  // A view that still knows the number of a node that went must not meet another one under it.
+  tree.Clear();
+  EXPECT_EQ(7, add(0, "leaf"));
+}
+
+TEST_F(Controls, ComboBoxTakesOtherTextsOnlyWhenEditable) {
+  ui::ComboBox box{Form, "cmb"};
+  int clicks = 0;
+  box.Click = box.Change = [&] { ++clicks; };
+  for (const char* text : {"one", "Two", "two"}) box.AddItem(text);
+  box.SetText("two");
+  EXPECT_EQ(2, box.ListIndex());
+  EXPECT_EQ(errors::InvalidPropertyValue, ErrorOf([&] { box.SetText("TWO"); }));
+  EXPECT_EQ("two", box.Text());
+  box.RemoveItem(0);
+  EXPECT_EQ(1, box.ListIndex());
+  EXPECT_EQ("two", box.Text());
+  box.RemoveItem(1);
+  EXPECT_EQ(-1, box.ListIndex());
+  EXPECT_EQ("", box.Text());
+  box.Editable = true;
+  box.SetText("typed");
+  EXPECT_EQ(-1, box.ListIndex());
+  box.RemoveItem(0);
+  EXPECT_EQ("typed", box.Text());
+  box.Clear();
+  EXPECT_EQ("", box.Text());
+  for (const int index : {-2, 0}) {
+    EXPECT_EQ(errors::InvalidPropertyValue, ErrorOf([&] { box.SetListIndex(index); }));
+    EXPECT_EQ(errors::InvalidPropertyValue, ErrorOf([&] { box.RemoveItem(index); }));
+  }
+  EXPECT_EQ(0, clicks);
+}
+
+class LivingForm : public ui::Form {
+ public:
+  explicit LivingForm(ui::UiHost& host) : Form(host, "frmLiving") {}
+
+  bool Accepts = true;
+  bool Breaks = false;
+  std::string Life;
+  ui::CommandButton cmdHidden{*this, "cmdHidden"};
+  ui::CommandButton cmdOK{*this, "cmdOK"};
+
+ protected:
+  bool Form_Load() override {
+    Life += "load ";
+    if (Breaks) throw RuntimeError(errors::Overflow, "Overflow");
+    return Accepts;
+  }
+  void Form_Unload() override { Life += "unload "; }
+};
+
+TEST_F(Controls, FormLoadsOnceAndIsNotShownWhenItRefuses) {
+  LivingForm refusing(Host), breaking(Host), unloaded(Host), living(Host);
+  refusing.Accepts = false;
+  refusing.ShowModal();
+  EXPECT_FALSE(refusing.Load());
+  EXPECT_EQ("load ", refusing.Life);
+  breaking.Breaks = true;
+  EXPECT_EQ(errors::Overflow, ErrorOf([&] { breaking.ShowModal(); }));
+  breaking.ShowModal();
+  EXPECT_EQ("load ", breaking.Life);
+  unloaded.Load();
+  unloaded.Unload();
+  unloaded.Show();
+  EXPECT_TRUE(Host.Shown.empty());
+
+  Host.OnModal("frmLiving", [&](ui::Form& form) { form.CloseBox(); });
+  living.ShowModal();
+  living.Unload();
+  EXPECT_EQ("load unload ", living.Life);
+}
+
+TEST_F(Controls, FormClosesAsItsCancelButtonDoes) {
+  LivingForm form(Host);
+  int clicks = 0;
+  form.cmdHidden.Cancel = form.cmdOK.Default = form.cmdOK.Cancel = true;
+  form.cmdHidden.Visible = false;
+  form.cmdOK.Click = [&] { ++clicks; };
+  EXPECT_EQ(&form.cmdOK, form.DefaultButton());
+  form.CloseBox();
+  EXPECT_EQ(1, clicks);
+  form.cmdOK.Enabled = false;
+  form.CloseBox();
+  EXPECT_EQ(1, clicks);
+  EXPECT_FALSE(form.IsUnloaded());
+  form.cmdOK.Visible = false;
+  form.CloseBox();
+  EXPECT_TRUE(form.IsUnloaded());
+  EXPECT_EQ((std::vector<ui::Control*>{&form.cmdHidden, &form.cmdOK}), form.Controls());
+}
+
+}  // namespace
+}  // namespace corvane::test
