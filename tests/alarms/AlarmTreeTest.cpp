@@ -1,0 +1,150 @@
+#include "alarms/AlarmTree.h"
+
+#include <gtest/gtest.h>
+
+#include "core/ConfigDatabase.h"
+#include "core/modMain.h"
+#include "platform/RuntimeError.h"
+#include "support/TestConsole.h"
+
+namespace corvane::test {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+// The tree over a catalogue of a few categories and alarms.
+class AlarmTreeTest : public testing::Test {
+ protected:
+  AlarmTreeTest() {
+    Console.Rows(R"(
+      DELETE FROM Alarms; DELETE FROM AlarmCategories;
+      INSERT INTO AlarmCategories ([Index], Name, OS, LogType) VALUES
+        ('Disk Errors_2', 'Disk Errors', 2, 2), ('backup''s_2', 'backup''s', 2, 2),
+        ('Disk Errors_1', 'Disk Errors', 1, 2), ('Elsewhere_2', 'Elsewhere', 2, 1);
+      INSERT INTO Alarms (Name, AlarmCategory) VALUES
+        ('Disk full', 'Disk Errors_2'), ('bad block', 'Disk Errors_2'), ('Path C:\x', 'backup''s_2'))");
+    Main.InitGlobals();
+    OpenConfigDatabase(Main);
+    Tree.FillOSNodes();
+  }
+
+  ui::NodeId At(const std::string& key) {
+    const ui::NodeId node = View.Find(key);
+    EXPECT_NE(0, node) << key;
+    return node;
+  }
+  void Open(const std::string& key) { Tree.Expand(At(key)); }
+  /// Key, text and picture of each child; for a dummy its key alone.
+  Lines Below(const std::string& key) {
+    Lines lines;
+    for (const ui::NodeId child : View.ChildrenOf(key.empty() ? 0 : At(key))) {
+      const ui::TreeNode& node = View.Node(child);
+      lines.push_back(node.Text == "DummyNode" ? node.Key : node.Key + " | " + node.Text + " | " + node.Image);
+    }
+    return lines;
+  }
+
+  const std::string Disk = "ALARMCAT\\2\\Disk Errors_2";
+  TestConsole Console;
+  modMain& Main = Console.App.State();
+  ui::Form Form{Console.Host, "frmTest"};
+  ui::TreeView View{Form, "tvAlarms"};
+  AlarmTree Tree{Main, View};
+};
+
+TEST_F(AlarmTreeTest, GrowsLevelByLevelWithADummyBelowEveryBranch) {
+  EXPECT_EQ((Lines{"OS\\2 | Windows 2000/XP/2003 | os", "OS\\1 | Windows NT 4.0 | os",
+                   "OS\\3 | Windows Vista/Windows Server 2008 | os"}),
+            Below(""));
+  EXPECT_EQ(Lines{"OS\\2\\DUMMYNODE"}, Below("OS\\2"));
+  Open("OS\\2");
+  EXPECT_EQ((Lines{"LOGTYPE\\2\\1 | Application | editlog", "LOGTYPE\\2\\5 | Directory Service | editlog",
+                   "LOGTYPE\\2\\4 | DNS Server | editlog", "LOGTYPE\\2\\6 | File Replication Service | editlog",
+                   "LOGTYPE\\2\\3 | Security | editlog", "LOGTYPE\\2\\2 | System | editlog"}),
+            Below("OS\\2"));
+  EXPECT_EQ(Lines{"LOGTYPE\\2\\2\\DUMMYNODE"}, Below("LOGTYPE\\2\\2"));
+  Open("LOGTYPE\\2\\2");
+  EXPECT_EQ((Lines{"ALARMCAT\\2\\backup's_2 | backup's | alarmcat", Disk + " | Disk Errors | alarmcat"}),
+            Below("LOGTYPE\\2\\2"));
+  EXPECT_EQ(Lines{Disk + "\\DUMMYNODE"}, Below(Disk));
+  Open(Disk);
+  EXPECT_EQ((Lines{"ALARM\\2\\Disk Errors_2\\bad block | bad block | alarm",
+                   "ALARM\\2\\Disk Errors_2\\Disk full | Disk full | alarm"}),
+            Below(Disk));
+  Open("ALARMCAT\\2\\backup's_2");
+  EXPECT_EQ(Lines{"ALARM\\2\\backup's_2\\Path C:\\x | Path C:\\x | alarm"}, Below("ALARMCAT\\2\\backup's_2"));
+}
+
+TEST_F(AlarmTreeTest, ShowsThreeLogsForTheOldestSystemsAndSixForOthers) {
+  for (const char* os : {"OS\\1", "OS\\2", "OS\\3"}) Open(os);
+  EXPECT_EQ((Lines{"LOGTYPE\\1\\1 | Application | editlog", "LOGTYPE\\1\\3 | Security | editlog",
+                   "LOGTYPE\\1\\2 | System | editlog"}),
+            Below("OS\\1"));
+  EXPECT_EQ(6U, Below("OS\\3").size());
+}
+
+TEST_F(AlarmTreeTest, ReadsAfreshAtEveryOpeningAndKeepsNothingClosed) {
+  for (const auto& key : {std::string("OS\\2"), std::string("LOGTYPE\\2\\2"), Disk}) Open(key);
+  Console.Rows(
+      "INSERT INTO Alarms (Name, AlarmCategory) VALUES ('Controller', 'Disk Errors_2');"
+      "DELETE FROM Alarms WHERE Name = 'bad block'");
+  // Opened again without being closed: what is new comes, what stands stays once.
+  Open(Disk);
+  EXPECT_EQ(3U, Below(Disk).size());
+  Tree.Collapse(At(Disk));
+  EXPECT_EQ(Lines{Disk + "\\DUMMYNODE"}, Below(Disk));
+  Open(Disk);
+  EXPECT_EQ((Lines{"ALARM\\2\\Disk Errors_2\\Controller | Controller | alarm",
+                   "ALARM\\2\\Disk Errors_2\\Disk full | Disk full | alarm"}),
+            Below(Disk));
+
+  const int others = 2 * 2;  // the other two classes with their dummies
+  Tree.Collapse(At("OS\\2"));
+  EXPECT_EQ(Lines{"OS\\2\\DUMMYNODE"}, Below("OS\\2"));
+  EXPECT_EQ(others + 2, View.Count());
+  Tree.Collapse(At("OS\\2"));
+  EXPECT_EQ(others + 2, View.Count());
+}
+
+TEST_F(AlarmTreeTest, PassesOverAlarms) {
+  for (const auto& key : {std::string("OS\\2"), std::string("LOGTYPE\\2\\2"), Disk}) Open(key);
+  const ui::NodeId alarm = At("ALARM\\2\\Disk Errors_2\\Disk full");
+  Console.Data.Forget();
+  Tree.Expand(alarm);
+  Tree.Collapse(alarm);
+  EXPECT_TRUE(View.ChildrenOf(alarm).empty());
+  EXPECT_TRUE(Console.Data.Statements.empty());
+}
+
+TEST_F(AlarmTreeTest, KeepsTheNodesAddedBeforeAFailure) {
+  // A row that cannot be read stands between the second log and the third.
+  Console.Rows("INSERT INTO LogTypes VALUES (NULL, 'Disk')");
+  EXPECT_THROW(Open("OS\\2"), RuntimeError);
+  EXPECT_EQ((Lines{"LOGTYPE\\2\\1 | Application | editlog", "LOGTYPE\\2\\5 | Directory Service | editlog"}),
+            Below("OS\\2"));
+  Console.Data.FailAfter(0, "AlarmCategories");
+  EXPECT_THROW(Open("LOGTYPE\\2\\1"), RuntimeError);
+  EXPECT_EQ(Lines{}, Below("LOGTYPE\\2\\1"));
+  Open("LOGTYPE\\2\\1");
+  EXPECT_EQ(Lines{"ALARMCAT\\2\\Elsewhere_2 | Elsewhere | alarmcat"}, Below("LOGTYPE\\2\\1"));
+}
+
+TEST_F(AlarmTreeTest, AsksExactlyThis) {
+  for (const auto& key : {std::string("OS\\2"), std::string("LOGTYPE\\2\\2"), std::string("ALARMCAT\\2\\backup's_2")})
+    Open(key);
+  EXPECT_EQ((Lines{"SELECT * FROM OsTypes ORDER BY OSName ASC", "SELECT * FROM LogTypes ORDER BY Name ASC",
+                   "SELECT * FROM AlarmCategories WHERE LogType = 2 AND OS = 2 ORDER BY Name ASC",
+                   "SELECT * FROM Alarms WHERE AlarmCategory = 'backup''s_2' ORDER BY Name ASC"}),
+            Console.Data.Statements);
+}
+
+TEST(LastKeyPart, IsWhatFollowsTheLastBackslash) {
+  EXPECT_EQ("Disk Errors_2", GetLastKeyPart("ALARMCAT\\2\\Disk Errors_2"));
+  EXPECT_EQ("x", GetLastKeyPart("ALARM\\2\\c_2\\Path C:\\x"));
+  EXPECT_EQ("whole", GetLastKeyPart("whole"));
+  EXPECT_EQ("", GetLastKeyPart("OS\\"));
+  EXPECT_EQ("", GetLastKeyPart(""));
+}
+
+}  // namespace
+}  // namespace corvane::test
