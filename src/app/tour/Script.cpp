@@ -5,6 +5,8 @@
 #include <QTimer>
 #include <cstdio>
 
+#include "platform/Conversions.h"
+
 namespace corvane::tour {
 namespace {
 
@@ -24,9 +26,7 @@ void Script::On(const QString& form, Act act) {
 
 void Script::Picture(const QString& form, const std::string& name) {
   On(form, [this, form, name] {
-    char number[8];
-    std::snprintf(number, sizeof number, "%02d", ++pictures_);
-    const std::string file = folder_ + "/" + number + "-" + name + ".png";
+    const std::string file = folder_ + "/" + PadZero(++pictures_, 2) + "-" + name + ".png";
     if (!Driver::Window(form)->grab().save(QString::fromStdString(file)))
       throw Failure("the picture " + file + " cannot be written");
   });
