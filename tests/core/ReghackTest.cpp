@@ -104,6 +104,7 @@ TEST_F(ReghackTest, SettingAValueNeverMakesItsKey) {
   Registry.SetKeyValue("Software\\Missing", "Value", "1", registry::String);
   EXPECT_FALSE(Registry.SetRemoteKeyValue("Software\\Missing", "Value", "1", registry::String, registry::LocalMachine));
   EXPECT_EQ(Registry.OpenKey("Software\\Missing", registry::LocalMachine), 0U);
+  EXPECT_FALSE(Registry.SetRemoteKeyValue(Settings, "a\nb", "1", registry::String, registry::LocalMachine));
   EXPECT_TRUE(Registry.CreateNewRemoteKey("http\\shell", registry::ClassesRoot));
   Registry.SetKeyValueHKCR("http\\shell", "", "browser", registry::String);
   EXPECT_EQ(Registry.GetKeyValueHKCR("http\\shell", ""), "browser\0"s);

@@ -165,6 +165,15 @@ TEST_F(IniFilesTest, SeesWhatOthersDoToTheFile) {
   EXPECT_EQ(Get("A", "n"), "-");
 }
 
+TEST_F(IniFilesTest, SeesAChangeThatTheFileTimeDoesNotShow) {
+  const auto file = Folder.Write("a.ini", "[A]\nk=1\n");
+  const auto time = std::filesystem::last_write_time(file);
+  EXPECT_EQ(Get("A", "k"), "1");
+  Folder.Write("a.ini", "[A]\nk=2\n");
+  std::filesystem::last_write_time(file, time);
+  EXPECT_EQ(Get("A", "k"), "2");
+}
+
 TEST_F(IniFilesTest, ProcessesThatWriteAtTheSameTimeLoseNothing) {
   std::vector<pid_t> children;
   for (int child = 0; child < 3; ++child)
