@@ -13,8 +13,8 @@ namespace corvane {
 namespace {
 
 void SetColumns(ui::ListView& list) {
-  list.Columns = {{"Name", assignment::NarrowColumn, false}};
-  for (const char* way : {"E-mail", "Pager", "Popup", "Database", "Syslog"}) list.Columns.push_back({way, 900, false});
+  list.Columns = {{"Name", 2400, false}, {"E-mail", 900, false},    {"Pager", 900, false},
+                  {"Popup", 900, false}, {"Database", 1200, false}, {"Syslog", 1000, false}};
   list.SetMultiSelect(true);
 }
 

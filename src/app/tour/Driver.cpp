@@ -28,8 +28,7 @@ QPoint CenterOf(const QAbstractItemView& view, const QModelIndex& index) {
 
 QWidget* Driver::Window(const QString& form) {
   for (QWidget* window : QApplication::topLevelWidgets())
-    if (window->isVisible() && (window->objectName() == form || window->findChild<QWidget*>(form) != nullptr))
-      return window;
+    if (window->isVisible() && window->objectName() == form) return window;
   return nullptr;
 }
 

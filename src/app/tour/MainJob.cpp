@@ -1,7 +1,6 @@
 #include "app/tour/MainJob.h"
 
 #include <QLabel>
-#include <QTest>
 
 #include "app/tour/Script.h"
 
@@ -72,7 +71,7 @@ void ChooseIgnoresAndNotifications(Script& script) {
     Driver::Click(Editor, "cmdNotAdd");
   });
   script.Picture(Editor, "set-notifications");
-  script.On(Editor, [] { QTest::keyClick(Driver::Window(Editor), Qt::Key_Return); });
+  script.On(Editor, [] { Driver::Click(Editor, "cmdOK"); });
 }
 
 bool ListShows(const char* texts) {

@@ -75,12 +75,12 @@ void frmCVMain::SetToolbar() {
 }
 
 void frmCVMain::SetLists() {
-  lvwComputers.Columns = {{"Computer", 2700, false},
-                          {"Log", 2400, false},
-                          {"Last Check Time", 1700, false},
-                          {"Scan Duration", 1500, false},
-                          {"# of Alarms Set", 1600, false},
-                          {"# of Notifications Set", 2000, false},
+  lvwComputers.Columns = {{"Computer", 2550, false},
+                          {"Log", 2550, false},
+                          {"Last Check Time", 1950, false},
+                          {"Scan Duration", 1800, false},
+                          {"# of Alarms Set", 1950, false},
+                          {"# of Notifications Set", 2400, false},
                           {"DateNum", 0, false},
                           {"SecsNum", 0, false}};
   lvwSyslogs.Columns = {{"Device Name", 4000, false}, {"IP Address", 2600, false}};
