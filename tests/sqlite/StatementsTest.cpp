@@ -79,8 +79,8 @@ TEST(Statements, FailWithTheNumbersOfTheDataLayer) {
       {" ", errors::DataSyntax},
       {"ATTACH DATABASE '/tmp/other' AS other", errors::DataSyntax},
   };
-  for (const auto& [sql, error] : cases)
-    EXPECT_EQ(test::ErrorOf([&] { connection->Execute(sql); }), error) << sql.substr(0, 90);
+  for (const auto& failing : cases)
+    EXPECT_EQ(test::ErrorOf([&] { connection->Execute(failing.Sql); }), failing.Error) << failing.Sql.substr(0, 90);
   EXPECT_EQ(test::Ask(store.File, "SELECT count(*) FROM RegisteredServers"), "2");
 }
 

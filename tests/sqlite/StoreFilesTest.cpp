@@ -32,6 +32,7 @@ TEST(StoreFiles, TheProviderMustKnowTheFormat) {
   EXPECT_EQ(ErrorOfOpen(old, With("4.0", "corvane.mdb")), 0);
   EXPECT_EQ(ErrorOfOpen(recent, With("3.51", "corvane.mdb")), errors::DataFailure);
   EXPECT_EQ(ErrorOfOpen(recent, With("4.0", "corvane.mdb")), 0);
+  EXPECT_EQ(ErrorOfOpen(recent, With("4.0", std::string("corvane.mdb\0x", 13))), errors::DataFailure);
   for (const char* other :
        {"", "Provider=MSDASQL;Data Source=C:\\Corvane\\corvane.mdb", "Data Source=C:\\Corvane\\corvane.mdb",
         "Provider=Microsoft.Jet.OLEDB.4.0;Data Source=;", "Provider=Microsoft.Jet.OLEDB.4.0"})
@@ -66,6 +67,11 @@ TEST(StoreFiles, WhatIsNotOursIsRefusedAndStaysAsItWas) {
   EXPECT_EQ(ErrorOfOpen(store, With("4.0", "missing.mdb")), errors::DataFailure);
   EXPECT_EQ(ErrorOfOpen(store, With("4.0", "folder.mdb")), errors::DataFailure);
   EXPECT_EQ(FilesIn(store.Folder), before);
+
+  std::string why;
+  const auto connection = store.Provider.NewConnection();
+  EXPECT_EQ(ErrorOf([&] { connection->Open(With("4.0", "newer.mdb")); }, &why), errors::DataFailure);
+  EXPECT_NE(why.find("newer version"), why.npos) << why;
 }
 
 TEST(StoreFiles, ADamagedTableFailsAloneAndIsNotMadeWorse) {
@@ -104,12 +110,17 @@ TEST(StoreFiles, ACatalogMakesAnEmptyDatabaseButReplacesNothing) {
 }
 
 // The engine's file layer with lock files has no shared memory, as a network share has none.
+struct LockFiles {
+  LockFiles() { sqlite3_vfs_register(sqlite3_vfs_find("unix-dotfile"), 1); }
+  ~LockFiles() { sqlite3_vfs_register(Usual, 1); }
+  sqlite3_vfs* Usual = sqlite3_vfs_find(nullptr);
+};
+
 TEST(StoreFiles, WithoutSharedMemoryAJournalIsUsed) {
   TestStore store;
   EXPECT_EQ(test::Ask(store.File, "PRAGMA journal_mode"), "wal");
-  sqlite3_vfs* const usual = sqlite3_vfs_find(nullptr);
-  sqlite3_vfs_register(sqlite3_vfs_find("unix-dotfile"), 1);
   {
+    const LockFiles insteadOfSharedMemory;
     store.Provider.NewCatalog()->Create(With("4.0", "made.mdb"));
     const auto first = store.Connect(), second = store.Connect();
     for (Connection* connection : {first.get(), second.get()})
@@ -117,7 +128,6 @@ TEST(StoreFiles, WithoutSharedMemoryAJournalIsUsed) {
     EXPECT_EQ(test::Ask(store.Folder / "made.mdb", "PRAGMA journal_mode"), "delete");
     EXPECT_EQ(test::Ask(store.File, "PRAGMA journal_mode"), "delete");
   }
-  sqlite3_vfs_register(usual, 1);
   EXPECT_EQ(test::Ask(store.File, "SELECT count(*) FROM AlarmGroups"), "2");
   EXPECT_EQ(test::Ask(store.File, "PRAGMA integrity_check"), "ok");
 }

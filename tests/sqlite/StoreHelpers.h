@@ -14,11 +14,12 @@
 
 namespace corvane::test {
 
-/// The number of the error that the work raises, 0 for none.
-inline int ErrorOf(const std::function<void()>& work) {
+/// The number of the error that the work raises, 0 for none, and its text.
+inline int ErrorOf(const std::function<void()>& work, std::string* description = nullptr) {
   try {
     work();
   } catch (const RuntimeError& error) {
+    if (description != nullptr) *description = error.Description;
     return error.Number;
   }
   return 0;

@@ -51,8 +51,7 @@ FindCriterion::FindCriterion(std::string_view text) {
 bool FindCriterion::Meets(const Value& value) const {
   const auto* wanted = std::get_if<std::string>(&wanted_);
   const auto* text = std::get_if<std::string>(&value);
-  if (wanted != nullptr && text != nullptr)
-    return wanted->size() == text->size() && sqlite3_stricmp(wanted->c_str(), text->c_str()) == 0;
+  if (wanted != nullptr && text != nullptr) return sqlite3_stricmp(wanted->c_str(), text->c_str()) == 0;
   const auto number = NumberOf(value);
   return number && number == NumberOf(wanted_);
 }

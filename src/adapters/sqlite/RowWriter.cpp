@@ -3,7 +3,6 @@
 #include <sqlite3.h>
 
 #include "adapters/sqlite/SqliteStatement.h"
-#include "adapters/sqlite/StoreErrors.h"
 
 namespace corvane {
 namespace {
@@ -46,8 +45,6 @@ void RowWriter::Change(std::int64_t rowId, const Fields& fields) {
   BindFields(update, fields);
   update.Bind(static_cast<int>(fields.size()) + 1, rowId);
   update.Run();
-  if (sqlite3_changes(engine_) == 0)
-    throw StoreError(errors::DataNoRow, "The row has been removed by another program.");
 }
 
 }  // namespace corvane

@@ -20,7 +20,7 @@ class RowWriter {
 
   /// Adds a row; fields that are not named take their defaults. Gives the hidden number of the row.
   std::int64_t Insert(const Fields& fields);
-  /// Changes the row of that number. Raises `DataNoRow` when another process has removed it.
+  /// Changes the row of that number; nothing when another process has removed it.
   void Change(std::int64_t rowId, const Fields& fields);
 
  private:

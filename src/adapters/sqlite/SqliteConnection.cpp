@@ -1,5 +1,7 @@
 #include "adapters/sqlite/SqliteConnection.h"
 
+#include <sqlite3.h>
+
 #include "adapters/sqlite/AdaptSql.h"
 #include "adapters/sqlite/ConnectionString.h"
 #include "adapters/sqlite/SqliteDatabase.h"
@@ -42,13 +44,19 @@ std::unique_ptr<Recordset> SqliteConnection::Execute(const std::string& sql) {
 }
 
 // Deferred: the lock is taken by the first change, so that a transaction that only reads holds up nobody.
-void SqliteConnection::BeginTrans() { Run("BEGIN DEFERRED"); }
+void SqliteConnection::BeginTrans() { Control("BEGIN DEFERRED", false); }
 
-void SqliteConnection::CommitTrans() { Run("COMMIT"); }
+void SqliteConnection::CommitTrans() { Control("COMMIT", true); }
 
-void SqliteConnection::RollbackTrans() { Run("ROLLBACK"); }
+void SqliteConnection::RollbackTrans() { Control("ROLLBACK", true); }
 
-void SqliteConnection::Run(const char* sql) { SqliteStatement(Database()->Engine(), sql).Run(); }
+// A full disk may have ended the transaction before its owner does.
+void SqliteConnection::Control(const char* sql, bool inTransaction) {
+  sqlite3* engine = Database()->Engine();
+  if ((sqlite3_get_autocommit(engine) == 0) != inTransaction)
+    throw StoreError(errors::DataFailure, inTransaction ? "No transaction is open." : "A transaction is open already.");
+  SqliteStatement(engine, sql).Run();
+}
 
 void SqliteConnection::SetLockWait(int milliseconds) {
   lockWait_ = milliseconds;

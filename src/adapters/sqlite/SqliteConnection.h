@@ -30,7 +30,7 @@ class SqliteConnection final : public Connection {
   const std::shared_ptr<SqliteDatabase>& Database() const;
 
  private:
-  void Run(const char* sql);
+  void Control(const char* sql, bool inTransaction);
 
   PathMap paths_;
   int lockWait_ = DefaultLockWait;

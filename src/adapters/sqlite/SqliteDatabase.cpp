@@ -82,7 +82,13 @@ SqliteDatabase::SqliteDatabase(const fs::path& file, int newestFormat, int lockW
 }
 
 sqlite3* SqliteDatabase::Engine() {
-  if (frozen_ && PresentStamp() != stamp_) Open();
+  if (engine_ && !(frozen_ && PresentStamp() != stamp_)) return engine_.get();
+  try {
+    Open();
+  } catch (...) {
+    engine_.reset();
+    throw;
+  }
   return engine_.get();
 }
 
