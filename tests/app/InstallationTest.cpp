@@ -13,6 +13,7 @@
 #include "app/installation/CatalogueFile.h"
 #include "app/installation/InstallationError.h"
 #include "app/installation/InstallerCommand.h"
+#include "app/installation/TextFile.h"
 #include "core/LogTypes.h"
 #include "core/Settings.h"
 #include "core/TimeStamp.h"
@@ -258,6 +259,7 @@ TEST_F(InstallationTest, NothingIsOverwritten) {
 
 TEST_F(InstallationTest, TheCommandLineSaysWhatWentWrong) {
   const std::string folder = folder_.string(), usage = "Usage: corvane-install DIR ";
+  const fs::path program = place_.Write("console", "the program");
   const struct {
     std::vector<std::string> Arguments;
     int Code;
@@ -276,10 +278,11 @@ TEST_F(InstallationTest, TheCommandLineSaysWhatWentWrong) {
                {{folder}, 1, "", "corvane-install: " + folder + " holds an installation already\n"}};
   for (const auto& [arguments, code, output, errors] : cases) {
     std::ostringstream out, err;
-    EXPECT_EQ(InstallerCommand(shipped, out, err).Run(arguments), code);
+    EXPECT_EQ(InstallerCommand(shipped, program, out, err).Run(arguments), code);
     EXPECT_TRUE(out.str().starts_with(output) && out.str().empty() == output.empty()) << out.str();
     EXPECT_TRUE(err.str().starts_with(errors) && err.str().empty() == errors.empty()) << err.str();
   }
+  EXPECT_EQ(ReadTextFile(folder_ / Installation::ProgramFile), "the program");
 }
 
 }  // namespace

@@ -49,7 +49,7 @@ void AnswerFirstRun(const LabModel& lab, RegistryImage& settings) {
 
 }  // namespace
 
-Installation::Installation(fs::path data) : data_(std::move(data)) {}
+Installation::Installation(fs::path data, fs::path program) : data_(std::move(data)), program_(std::move(program)) {}
 
 void Installation::LayOut(const fs::path& folder, Kind kind) const {
   try {
@@ -72,6 +72,7 @@ void Installation::Fill(const fs::path& folder, Kind kind) const {
   CopyFile(PlatformFile, folder);
   CopyFile(LabFile, folder);
   CopyHelp(folder);
+  CopyProgram(folder);
   for (const char* name : {RegistryFolder, RapidConfigFolder, AgentConfigFolder}) fs::create_directory(folder / name);
   MakeRegistries(folder, *LabNetwork(folder / LabFile).Model(), kind);
 }
@@ -106,6 +107,10 @@ void Installation::MakeRegistries(const fs::path& folder, const LabModel& lab, K
 
 void Installation::CopyFile(const char* name, const fs::path& folder) const {
   WriteTextFile(folder / name, ReadTextFile(data_ / name));
+}
+
+void Installation::CopyProgram(const fs::path& folder) const {
+  if (!program_.empty() && fs::exists(program_)) fs::copy_file(program_, folder / ProgramFile);
 }
 
 void Installation::CopyHelp(const fs::path& folder) const {

@@ -13,6 +13,7 @@ class Installation {
   /// `FirstRun` leaves open what the first start asks for; `Lab` answers it, with the first domain of the lab network.
   enum class Kind { FirstRun, Lab };
 
+  static constexpr const char* ProgramFile = "corvane";
   static constexpr const char* DatabaseFile = "corvane.db";
   static constexpr const char* RegistryFile = "corvane.reg";
   static constexpr const char* PlatformFile = "platform.ini";
@@ -24,7 +25,9 @@ class Installation {
   static constexpr const char* HelpFolder = "help";
 
   /// `data` is the folder with the shipped schema, catalogue, settings, lab network and help pages.
-  explicit Installation(std::filesystem::path data);
+  /// `program` is the console to put there, since it works on the installation that it lies in; without one the
+  /// installation has none.
+  explicit Installation(std::filesystem::path data, std::filesystem::path program = {});
 
   /// Lays out an installation in a folder that is missing or empty. Raises `InstallationError`, with nothing left
   /// behind, also when the folder holds an installation already.
@@ -34,10 +37,12 @@ class Installation {
   void Fill(const std::filesystem::path& folder, Kind kind) const;
   void MakeDatabase(const std::filesystem::path& folder) const;
   void MakeRegistries(const std::filesystem::path& folder, const LabModel& lab, Kind kind) const;
+  void CopyProgram(const std::filesystem::path& folder) const;
   void CopyFile(const char* name, const std::filesystem::path& folder) const;
   void CopyHelp(const std::filesystem::path& folder) const;
 
   std::filesystem::path data_;
+  std::filesystem::path program_;
 };
 
 }  // namespace corvane

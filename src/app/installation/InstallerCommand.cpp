@@ -18,8 +18,9 @@ constexpr const char* Usage =
 
 }  // namespace
 
-InstallerCommand::InstallerCommand(std::filesystem::path data, std::ostream& out, std::ostream& errors)
-    : data_(std::move(data)), out_(out), errors_(errors) {}
+InstallerCommand::InstallerCommand(std::filesystem::path data, std::filesystem::path program, std::ostream& out,
+                                   std::ostream& errors)
+    : data_(std::move(data)), program_(std::move(program)), out_(out), errors_(errors) {}
 
 int InstallerCommand::Run(const std::vector<std::string>& arguments) {
   if (!Read(arguments)) return 2;
@@ -28,7 +29,7 @@ int InstallerCommand::Run(const std::vector<std::string>& arguments) {
     return 0;
   }
   try {
-    Installation(data_).LayOut(folder_, lab_ ? Installation::Kind::Lab : Installation::Kind::FirstRun);
+    Installation(data_, program_).LayOut(folder_, lab_ ? Installation::Kind::Lab : Installation::Kind::FirstRun);
   } catch (const InstallationError& error) {
     errors_ << "corvane-install: " << error.what() << "\n";
     return 1;

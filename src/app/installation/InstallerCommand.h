@@ -13,7 +13,7 @@ namespace corvane {
 class InstallerCommand {
  public:
   /// `data` is where the shipped files lie unless the command line says otherwise.
-  InstallerCommand(std::filesystem::path data, std::ostream& out, std::ostream& errors);
+  InstallerCommand(std::filesystem::path data, std::filesystem::path program, std::ostream& out, std::ostream& errors);
 
   /// Does what the arguments, without the program's name, ask for. 0 when it was done, 1 when it could not be done, 2
   /// when the arguments are not understood.
@@ -25,6 +25,7 @@ class InstallerCommand {
   bool Refuse(const std::string& why);
 
   std::filesystem::path data_;
+  std::filesystem::path program_;
   std::ostream& out_;
   std::ostream& errors_;
   std::filesystem::path folder_;
