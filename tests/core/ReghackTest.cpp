@@ -68,72 +68,56 @@ TEST_F(ReghackTest, ReadsBackWhatItWroteWithTheFinalZeroOfStringsOnly) {
     Value Written;
     std::uint32_t Type;
     std::string Read;
-  } cases[] = {
-      {"text", registry::String, "text\0"s}, {"", registry::String, "\0"s},
-      {7, registry::String, "7\0"s},         {7, registry::Number, "7"},
-      {-65536, registry::Number, "-65536"},  {"12", registry::Number, "12"},
-  };
+  } cases[] = {{"text", registry::String, "text\0"s}, {"", registry::String, "\0"s},  {7, registry::String, "7\0"s},
+               {-65536, registry::Number, "-65536"},  {"12", registry::Number, "12"}, {"x", registry::Binary, "12"}};
   for (const auto& each : cases) {
     Registry.SetKeyValue(Settings, "Value", each.Written, each.Type);
     EXPECT_EQ(Registry.GetKeyValue(Settings, "VALUE"), each.Read);
     EXPECT_EQ(Registry.GetKeyValue64(Settings, "Value"), each.Read);
   }
   EXPECT_THROW(Registry.SetKeyValue(Settings, "Value", "letters", registry::Number), RuntimeError);
-  EXPECT_EQ(Registry.GetKeyValue(Settings, "Value"), "12");
 }
 
 TEST_F(ReghackTest, WhatIsMissingOrOfAnotherTypeIsAnEmptyText) {
   EXPECT_EQ(Registry.GetKeyValue(Settings, "Missing"), "");
   EXPECT_EQ(Registry.GetKeyValue("Software\\Missing", "Value"), "");
   const RegistryHandle key = Registry.OpenKey(Settings, registry::LocalMachine);
-  ASSERT_NE(key, 0U);
   std::string value = "before";
   EXPECT_EQ(Store.SetValue(key, "Binary", {registry::Binary, "ab"}), registry::Ok);
   EXPECT_EQ(Registry.QueryValueEx(key, "Binary", value), -1);
   EXPECT_EQ(value, "");
   EXPECT_EQ(Registry.QueryValueEx(key, "Missing", value), registry::NotFound);
   EXPECT_EQ(Store.SetValue(key, "Expand", {registry::ExpandString, "%A\0"s}), registry::Ok);
-  EXPECT_EQ(Registry.QueryValueEx(key, "Expand", value), registry::Ok);
-  EXPECT_EQ(value, "%A\0"s);
-  EXPECT_EQ(Registry.SetValueEx(key, "Binary", registry::Binary, "x"), registry::Ok);
-  EXPECT_EQ(Registry.GetKeyValue(Settings, "Binary"), "");
-  EXPECT_EQ(Registry.OpenKey("Software\\Missing", registry::LocalMachine), 0U);
+  EXPECT_EQ(Registry.GetKeyValue(Settings, "Expand"), "%A\0"s);
 }
 
-TEST_F(ReghackTest, SettingAValueNeverMakesItsKey) {
-  Registry.SetKeyValue("Software\\Missing", "Value", "1", registry::String);
-  EXPECT_FALSE(Registry.SetRemoteKeyValue("Software\\Missing", "Value", "1", registry::String, registry::LocalMachine));
-  EXPECT_EQ(Registry.OpenKey("Software\\Missing", registry::LocalMachine), 0U);
-  EXPECT_FALSE(Registry.SetRemoteKeyValue(Settings, "a\nb", "1", registry::String, registry::LocalMachine));
+TEST_F(ReghackTest, SettingAndDeletingTellWhetherTheyWereDone) {
+  using registry::LocalMachine, registry::String;
+  EXPECT_FALSE(Registry.SetRemoteKeyValue("Software\\Missing", "Value", "1", String, LocalMachine));
+  EXPECT_EQ(Registry.OpenKey("Software\\Missing", LocalMachine), 0U);
+  EXPECT_FALSE(Registry.SetRemoteKeyValue(Settings, "a\nb", "1", String, LocalMachine));
   EXPECT_TRUE(Registry.CreateNewRemoteKey("http\\shell", registry::ClassesRoot));
-  Registry.SetKeyValueHKCR("http\\shell", "", "browser", registry::String);
+  Registry.SetKeyValueHKCR("http\\shell", "", "browser", String);
   EXPECT_EQ(Registry.GetKeyValueHKCR("http\\shell", ""), "browser\0"s);
-  EXPECT_EQ(Registry.GetKeyValue("http\\shell", ""), "");
-}
-
-TEST_F(ReghackTest, DeletesValuesAndKeys) {
-  Registry.SetKeyValue(Settings, "Value", "1", registry::String);
+  EXPECT_TRUE(Registry.SetRemoteKeyValue(Settings, "Value", "1", String, LocalMachine));
   EXPECT_TRUE(Registry.DeleteKeyValue(Settings, "Value"));
   EXPECT_FALSE(Registry.DeleteKeyValue(Settings, "Value"));
-  EXPECT_FALSE(Registry.DeleteRemoteKeyValue("Missing", "Value", registry::LocalMachine));
-  EXPECT_FALSE(Registry.DeleteKey("Software", registry::LocalMachine));
-  EXPECT_TRUE(Registry.DeleteKey(Settings, registry::LocalMachine));
+  EXPECT_FALSE(Registry.DeleteKeyValue("Software\\Missing", "Value"));
+  EXPECT_FALSE(Registry.DeleteKey("Software", LocalMachine));
+  EXPECT_TRUE(Registry.DeleteKey(Settings, LocalMachine));
 }
 
 TEST_F(ReghackTest, ReachesTheSameComputerWithAndWithoutBackslashes) {
   for (const char* name : {"SERVER1", "\\\\SERVER1"}) {
     const RegistryHandle remote = Registry.OpenRemoteReg(name, registry::LocalMachine);
-    ASSERT_NE(remote, 0U) << name;
     EXPECT_TRUE(Registry.CreateNewRemoteKey("Eventlog", remote));
     EXPECT_TRUE(Registry.SetRemoteKeyValue("Eventlog", "File", name, registry::String, remote));
     EXPECT_EQ(Registry.GetRemoteKeyValue("Eventlog", "File", remote), name + "\0"s);
-    EXPECT_TRUE(Registry.DeleteRemoteKeyValue("Eventlog", "File", remote));
     Registry.CloseKeyHandle(remote);
     EXPECT_FALSE(Registry.SetRemoteKeyValue("Eventlog", "File", "x", registry::String, remote));
   }
   EXPECT_EQ(Registry.GetKeyValue("Eventlog", "File"), "");
   EXPECT_EQ(Registry.OpenRemoteReg("SERVER2", registry::LocalMachine), 0U);
-  EXPECT_EQ(Registry.OpenRemoteReg("", registry::LocalMachine), 0U);
 }
 
 TEST_F(ReghackTest, ListsStringValuesUpToTheEndOrNothing) {
@@ -148,10 +132,10 @@ TEST_F(ReghackTest, ListsStringValuesUpToTheEndOrNothing) {
       {{Ok, Ok, MoreData, NoMoreItems}, {"N0", "N2"}, {"K0", "K1", "K2"}, 4},
       {{Ok, Ok, registry::AccessDenied, Ok}, {}, {}, 3},
   };
+  std::vector<std::string> names{"left over"}, values{"left over"};
+  int count = 99;
   for (const auto& each : cases) {
     Store.Statuses = each.Statuses;
-    std::vector<std::string> names{"left over"}, values{"left over"};
-    int count = 99;
     Yields = 0;
     Registry.EnumSubValues(names, values, count, registry::LocalMachine);
     EXPECT_EQ(names, each.Values);
@@ -162,17 +146,11 @@ TEST_F(ReghackTest, ListsStringValuesUpToTheEndOrNothing) {
     EXPECT_EQ(names, each.Keys);
     EXPECT_EQ(count, static_cast<int>(each.Keys.size()));
   }
-}
-
-TEST_F(ReghackTest, ListsMoreThanTwoHundredValuesAndCutsLongOnes) {
-  Store.Statuses.assign(450, registry::Ok);
-  Store.Statuses.push_back(registry::NoMoreItems);
+  Store.Statuses.assign(450, Ok);
+  Store.Statuses.push_back(NoMoreItems);
   Store.Long = std::string(300, 'x');
-  std::vector<std::string> names, values;
-  int count = 0;
   Registry.EnumSubValues(names, values, count, registry::LocalMachine);
   ASSERT_EQ(count, 449);
-  EXPECT_EQ(names[448].substr(0, 4), "N449");
   EXPECT_EQ(values[0].size(), 256U);
   EXPECT_EQ(values[448].size(), 255U);
 }
@@ -180,16 +158,11 @@ TEST_F(ReghackTest, ListsMoreThanTwoHundredValuesAndCutsLongOnes) {
 TEST_F(ReghackTest, TellsOfTheMachineWhatFitsItsBuffers) {
   EXPECT_EQ(Registry.FindCompName(), "CONSOLE1");
   EXPECT_EQ(Registry.WinDirectory(), "C:\\WINDOWS");
-  Machine.Name = std::nullopt;
-  Machine.Windows = std::string(144, 'x');
-  EXPECT_EQ(Registry.FindCompName(), "");
-  EXPECT_EQ(Registry.WinDirectory(), "");
   Machine.Name = std::string(50, 'x');
+  Machine.Windows = std::string(144, 'x');
+  EXPECT_EQ(Registry.FindCompName() + Registry.WinDirectory(), "");
+  Machine.Name = std::nullopt;
   EXPECT_EQ(Registry.FindCompName(), "");
-}
-
-TEST(DeNullString, DropsTheLastCharacterWhateverItIs) {
-  EXPECT_EQ(Reghack::DeNullString("text\0"s), "text");
   EXPECT_EQ(Reghack::DeNullString("text"), "tex");
   EXPECT_EQ(Reghack::DeNullString(""), "");
 }

@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <stdexcept>
+#include <vector>
 
 namespace corvane::test {
 
@@ -18,18 +19,23 @@ pid_t StartChild(const std::function<void()>& work) {
   ::_exit(0);
 }
 
+void InChildren(int count, const std::function<void(int)>& work) {
+  std::vector<pid_t> children;
+  for (int number = 0; number < count; ++number) children.push_back(StartChild([&] { work(number); }));
+  for (const pid_t child : children) ::waitpid(child, nullptr, 0);
+}
+
 long InChild(const std::function<long()>& work) {
   int ends[2];
   if (::pipe(ends) != 0) throw std::runtime_error("no pipe");
-  const pid_t child = StartChild([&] {
-    const long result = work();
-    if (::write(ends[1], &result, sizeof result) != sizeof result) ::_exit(1);
+  long result = -1;
+  InChildren(1, [&](int) {
+    result = work();
+    if (::write(ends[1], &result, sizeof result) < 0) ::_exit(1);
   });
   ::close(ends[1]);
-  long result = -1;
   if (::read(ends[0], &result, sizeof result) != sizeof result) result = -1;
   ::close(ends[0]);
-  ::waitpid(child, nullptr, 0);
   return result;
 }
 
