@@ -1,7 +1,6 @@
 #include <fstream>
 
 #include "adapters/sqlite/AdaptSql.h"
-#include "adapters/sqlite/StoreErrors.h"
 #include "sqlite/StoreHelpers.h"
 
 namespace corvane {
@@ -82,24 +81,6 @@ TEST(Statements, FailWithTheNumbersOfTheDataLayer) {
   for (const auto& failing : cases)
     EXPECT_EQ(test::ErrorOf([&] { connection->Execute(failing.Sql); }), failing.Error) << failing.Sql.substr(0, 90);
   EXPECT_EQ(test::Ask(store.File, "SELECT count(*) FROM RegisteredServers"), "2");
-}
-
-TEST(Statements, EveryFailureOfTheEngineHasItsNumber) {
-  const struct {
-    int Code, Error;
-  } cases[] = {{SQLITE_BUSY_SNAPSHOT, errors::DataLocked},
-               {SQLITE_LOCKED_SHAREDCACHE, errors::DataLocked},
-               {SQLITE_PROTOCOL, errors::DataLocked},
-               {SQLITE_READONLY_DBMOVED, errors::DataReadOnly},
-               {SQLITE_CORRUPT_INDEX, errors::DataFailure},
-               {SQLITE_NOTADB, errors::DataFailure},
-               {SQLITE_FULL, errors::DiskFull},
-               {SQLITE_IOERR_FSYNC, errors::DeviceIo},
-               {SQLITE_TOOBIG, errors::DataFieldTooSmall},
-               {SQLITE_CONSTRAINT_TRIGGER, errors::DataConstraint},
-               {SQLITE_CANTOPEN_ISDIR, errors::DataFailure},
-               {SQLITE_NOMEM, 7}};
-  for (const auto& [code, error] : cases) EXPECT_EQ(ErrorOfCode(code, "text").Number, error) << code;
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <sqlite3.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdio>
 #include <cstring>
 
@@ -94,7 +95,7 @@ sqlite3* SqliteDatabase::Engine() {
 
 void SqliteDatabase::SetLockWait(int milliseconds) {
   lockWait_ = milliseconds;
-  sqlite3_busy_timeout(engine_.get(), lockWait_);
+  if (engine_) sqlite3_busy_timeout(engine_.get(), lockWait_);
 }
 
 SqliteDatabase::Handle SqliteDatabase::OpenHandle(const std::string& name, int flags) {
@@ -109,8 +110,7 @@ SqliteDatabase::Handle SqliteDatabase::OpenHandle(const std::string& name, int f
   return handle;
 }
 
-// Read through the engine's own descriptor: closing another one would drop every lock that this process has on the
-// file.
+// Read through the engine's own descriptor: closing another one would drop every lock of this process on the file.
 SqliteDatabase::Header SqliteDatabase::ReadHeader(sqlite3* engine) {
   Header header{};
   sqlite3_file* file = nullptr;
@@ -127,8 +127,8 @@ void SqliteDatabase::Open() {
   engine_.reset();
   try {
     engine_ = OpenHandle(file_.string(), SQLITE_OPEN_READWRITE);
-  } catch (const RuntimeError& error) {
-    throw Refusal(file_, "it is no file that may be read (" + error.Description + ")");
+  } catch (const RuntimeError&) {
+    throw Refusal(file_, "it is not a file, or may not be read");
   }
   CheckOwner();
   SetLockWait(lockWait_);
@@ -145,8 +145,7 @@ void SqliteDatabase::CheckOwner() const {
   if (format > static_cast<std::uint32_t>(newestFormat_)) throw Refusal(file_, "the provider does not know its format");
 }
 
-// The first read meets locks, damage and journals, so that they show when the file is opened and not in some later
-// query.
+// The first read meets locks, damage and journals, so that they show at the opening and not in some later query.
 void SqliteDatabase::ReadFirst() {
   const int code = TryRun(engine_.get(), "SELECT count(*) FROM sqlite_schema");
   if (code == SQLITE_OK) {
@@ -201,8 +200,8 @@ void SqliteDatabase::Create(const fs::path& file, std::string_view schema, int f
   try {
     const Handle engine = OpenHandle(fs::absolute(file).string(), SQLITE_OPEN_READWRITE);
     // One transaction, so that a half-made file is never taken for a database.
-    Run(engine.get(), "BEGIN; PRAGMA application_id = " + std::to_string(OwnerMark) +
-                          "; PRAGMA user_version = " + std::to_string(format) + ";" + std::string(schema) + "; COMMIT");
+    Run(engine.get(), "BEGIN; PRAGMA application_id = " + std::to_string(OwnerMark) + "; PRAGMA user_version = " +
+                          std::to_string(format) + ";" + std::string(schema) + "\n; COMMIT");
     // Where the folder does not allow it the engine stays with its rollback journal.
     Run(engine.get(), "PRAGMA journal_mode = WAL");
   } catch (...) {
