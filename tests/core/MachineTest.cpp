@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <sstream>
+
 #include "adapters/lab/LabServiceManager.h"
 #include "core/Browser.h"
 #include "core/RemoteLogs.h"
@@ -46,6 +49,24 @@ TEST(ServiceControl, TellsPendingAsRunningAndMissingAsUnknown) {
     EXPECT_EQ(c.Stops, StopSyslogBridgeNow(services));
     EXPECT_EQ(0U, services.OpenHandles());
   }
+}
+
+TEST(ServiceControl, MeetsAServiceUnderTheNameThatAHandGaveIt) {
+  const auto bridgeUnder = [](const std::string& section) {
+    TestConsole console;
+    const auto file = console.Folder() / Installation::LabFile;
+    std::ostringstream text;
+    text << std::ifstream(file).rdbuf();
+    std::string changed = text.str();
+    const std::string original = "[Service CVSyslogBridge]";
+    changed.replace(changed.find(original), original.size(), section);
+    std::ofstream(file) << changed;
+    ServiceManager& services = console.Ports.Services;
+    const int before = SyslogBridgeState(services);
+    return std::vector<int>{before, StartSyslogBridgeNow(services), SyslogBridgeState(services)};
+  };
+  EXPECT_EQ((std::vector<int>{0, 1, 1}), bridgeUnder("[ Service   cvsyslogbridge ]"));
+  EXPECT_EQ((std::vector<int>{-1, -1, -1}), bridgeUnder("[Service Another]"));
 }
 
 // Notes what is asked of it and fails from the step of that number on.

@@ -18,6 +18,12 @@ std::vector<std::string> SplitLines(const std::string& text) {
   return lines;
 }
 
+// Kind and name of a section with one blank between them, however many a hand has put there.
+std::string SectionName(const std::string& text) {
+  const std::size_t blank = std::min(text.find(' '), text.size());
+  return Trim(text.substr(0, blank) + " " + Trim(text.substr(blank)));
+}
+
 template <class Items>
 auto FindNamed(Items& items, std::string Items::value_type::*name, const std::string& wanted) {
   return std::find_if(items.begin(), items.end(), [&](const auto& item) { return SameText(item.*name, wanted); });
@@ -37,7 +43,7 @@ void LabFile::Index() {
     const std::string line = Trim(lines_[i]);
     if (line.empty() || line.front() == ';') continue;
     if (line.front() == '[' && line.back() == ']') {
-      sections_.push_back({Trim(line.substr(1, line.size() - 2)), i, {}});
+      sections_.push_back({SectionName(Trim(line.substr(1, line.size() - 2))), i, {}});
       continue;
     }
     const std::size_t equals = line.find('=');
