@@ -14,6 +14,7 @@
 #include "adapters/qt/DragController.h"
 #include "adapters/qt/SplitterShares.h"
 #include "adapters/qt/Text.h"
+#include "adapters/qt/WindowPlace.h"
 #include "adapters/qt/bindings/Binding.h"
 #include "platform/ui/SimpleControls.h"
 #include "platform/ui/UiHost.h"
@@ -33,15 +34,15 @@ bool IsMnemonic(const std::string& caption) {
   return mark != std::string::npos && mark + 1 < caption.size() && caption[mark + 1] != '&';
 }
 
-std::unique_ptr<QWidget> MakeMainWindow(QWidget* opener, QWidget* content) {
-  auto window = std::make_unique<QMainWindow>(opener);
+std::unique_ptr<QWidget> MakeMainWindow(QWidget* content) {
+  auto window = std::make_unique<QMainWindow>();
   window->setContextMenuPolicy(Qt::PreventContextMenu);
   window->setCentralWidget(content);
   return window;
 }
 
-std::unique_ptr<QWidget> MakeDialog(QWidget* opener, QWidget* content) {
-  auto window = std::make_unique<QDialog>(opener);
+std::unique_ptr<QWidget> MakeDialog(QWidget* content) {
+  auto window = std::make_unique<QDialog>();
   auto* layout = new QVBoxLayout(window.get());
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(content);
@@ -56,10 +57,10 @@ std::string WidgetName(const ui::Control& control) {
   return control.Index < 0 ? name : name + "_" + std::to_string(control.Index);
 }
 
-FormView::FormView(ui::Form& form, const FormEntry& entry, Dispatcher& dispatcher, QWidget* opener)
+FormView::FormView(ui::Form& form, const FormEntry& entry, Dispatcher& dispatcher)
     : form_(form), dispatcher_(dispatcher), drag_(std::make_unique<DragController>(*this)) {
   const Dispatcher::Writing writing(dispatcher_);
-  BuildWindow(entry, opener);
+  BuildWindow(entry);
   BindControls();
   SetTabOrder();
   SetBuddies();
@@ -69,12 +70,12 @@ FormView::FormView(ui::Form& form, const FormEntry& entry, Dispatcher& dispatche
 
 FormView::~FormView() { Close(); }
 
-void FormView::BuildWindow(const FormEntry& entry, QWidget* opener) {
+void FormView::BuildWindow(const FormEntry& entry) {
   auto content = std::make_unique<QWidget>();
   content_ = content.get();
   entry.Place(*content_);
   const bool main = NeedsMainWindow(form_);
-  window_ = main ? MakeMainWindow(nullptr, content.release()) : MakeDialog(opener, content.release());
+  window_ = main ? MakeMainWindow(content.release()) : MakeDialog(content.release());
   if (entry.Frame == WindowFrame::None) window_->setWindowFlag(Qt::FramelessWindowHint);
   window_->setObjectName(ToQt(form_.Name()));
   window_->installEventFilter(this);
@@ -113,8 +114,8 @@ void FormView::SetBuddies() {
   }
 }
 
-void FormView::Show(bool modal) {
-  if (modal) window_->setWindowModality(window_->parentWidget() != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
+void FormView::Show(QWidget* opener, bool modal) {
+  if (window_->isHidden()) PlaceAbove(*window_, NeedsMainWindow(form_) ? nullptr : opener, modal);
   window_->show();
   window_->raise();
   window_->activateWindow();
@@ -207,7 +208,7 @@ bool FormView::KeyPressed(int key) {
       return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      if (auto* focused = qobject_cast<QPushButton*>(QApplication::focusWidget()))
+      if (auto* focused = qobject_cast<QPushButton*>(window_->focusWidget()))
         focused->click();
       else
         PressButton(form_.DefaultButton());

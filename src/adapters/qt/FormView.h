@@ -22,8 +22,8 @@ class SplitterShares;
 /// The window of one shown form: the widgets of its placement, each tied to the control of its name.
 class FormView : public QObject {
  public:
-  /// Builds the window, not shown yet. `opener` is the window above which it stands; may be null.
-  FormView(ui::Form& form, const FormEntry& entry, Dispatcher& dispatcher, QWidget* opener);
+  /// Builds the window, not shown yet.
+  FormView(ui::Form& form, const FormEntry& entry, Dispatcher& dispatcher);
   ~FormView() override;
 
   /// The form; only while the view is open.
@@ -32,8 +32,8 @@ class FormView : public QObject {
   bool IsOpen() const { return open_; }
   QWidget& Window() const { return *window_; }
 
-  /// Shows the window. A modal one blocks its opener.
-  void Show(bool modal);
+  /// Shows the window above its opener, which may be null; a modal one blocks it.
+  void Show(QWidget* opener, bool modal);
   /// Lets go of the form, which may be gone already, and takes the window away.
   void Close();
   /// Brings the widgets up to date with the form's controls.
@@ -62,7 +62,7 @@ class FormView : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void BuildWindow(const FormEntry& entry, QWidget* opener);
+  void BuildWindow(const FormEntry& entry);
   void BindControls();
   void SetTabOrder();
   void SetBuddies();

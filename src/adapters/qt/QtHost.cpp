@@ -9,6 +9,7 @@
 #include "adapters/qt/FormView.h"
 #include "adapters/qt/HelpWindow.h"
 #include "adapters/qt/Text.h"
+#include "adapters/qt/WindowPlace.h"
 #include "adapters/qt/bindings/MenuBinding.h"
 #include "platform/ui/Commands.h"
 #include "platform/ui/Form.h"
@@ -71,23 +72,26 @@ QWidget* QtHost::Opener() const {
   return nullptr;
 }
 
-FormView& QtHost::Open(ui::Form& form) {
+FormView& QtHost::Open(ui::Form& form, bool modal) {
   dispatcher_.Rethrow();
   Flush();
-  views_.push_back(std::make_unique<FormView>(form, forms_.At(form.Name()), dispatcher_, Opener()));
+  QWidget* opener = Opener();
+  views_.push_back(std::make_unique<FormView>(form, forms_.At(form.Name()), dispatcher_));
+  views_.back()->Show(opener, modal);
   return *views_.back();
 }
 
 void QtHost::Show(ui::Form& form) {
-  FormView* view = ViewOf(form);
-  (view != nullptr ? *view : Open(form)).Show(false);
+  if (FormView* view = ViewOf(form))
+    view->Show(nullptr, false);
+  else
+    Open(form, false);
 }
 
 void QtHost::ShowModal(ui::Form& form) {
-  FormView& view = Open(form);
+  FormView& view = Open(form, true);
   QEventLoop loop;
   view.Closed = [&loop] { loop.quit(); };
-  view.Show(true);
   dispatcher_.Run(loop);
   view.Closed = nullptr;
   Retire(view);
@@ -155,7 +159,7 @@ ui::MsgResult QtHost::MsgBox(const std::string& text, ui::MsgIcon icon, ui::MsgB
                              const std::string& title) {
   dispatcher_.Rethrow();
   Flush();
-  QMessageBox box(IconOf(icon), ToQt(title), ToQt(text), QMessageBox::NoButton, Opener());
+  QMessageBox box(IconOf(icon), ToQt(title), ToQt(text), QMessageBox::NoButton);
   box.setTextFormat(Qt::PlainText);
   const std::vector<Answer> answers = AnswersOf(buttons);
   for (const Answer& answer : answers) box.addButton(answer.Button);
@@ -163,7 +167,8 @@ ui::MsgResult QtHost::MsgBox(const std::string& text, ui::MsgIcon icon, ui::MsgB
   box.setEscapeButton(answers.back().Button);
   QEventLoop loop;
   QObject::connect(&box, &QDialog::finished, &loop, &QEventLoop::quit);
-  box.setWindowModality(box.parentWidget() != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
+  box.adjustSize();
+  PlaceAbove(box, Opener(), true);
   box.show();
   dispatcher_.Run(loop);
   Reactivate();

@@ -48,7 +48,7 @@ class QtHost : public ui::UiHost {
   FormView* ViewOf(const ui::Form& form) const;
 
  private:
-  FormView& Open(ui::Form& form);
+  FormView& Open(ui::Form& form, bool modal);
   QWidget* Opener() const;
   void Flush();
   void Retire(FormView& view);

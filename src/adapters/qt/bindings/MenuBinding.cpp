@@ -18,7 +18,7 @@ MenuBinding::MenuBinding(FormView& view, ui::MenuItem& control) : Binding(view, 
     action_ = menu_->menuAction();
     connect(menu_.get(), &QMenu::aboutToShow, this, [this] { Fire(control_.Click); });
   } else {
-    item_ = std::make_unique<QAction>();
+    item_ = std::make_unique<QAction>(&view.Window());
     action_ = item_.get();
     action_->setSeparator(control.Caption == "-");
     connect(action_, &QAction::triggered, this, [this] { Fire(control_.Click); });
