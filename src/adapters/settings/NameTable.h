@@ -5,7 +5,6 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -56,8 +55,10 @@ class NameTable {
   auto end() const { return order_.end(); }
 
   T* Find(std::string_view name) const {
-    const auto found = index_.find(name);
-    return found == index_.end() ? nullptr : found->second;
+    const std::uint32_t hash = HashOf(name);
+    for (std::size_t at = hash; const std::uint32_t place = SlotAt(at).Place; ++at)
+      if (SlotAt(at).Hash == hash && NameEqual()(order_[place - 1]->Name, name)) return order_[place - 1].get();
+    return nullptr;
   }
 
   /// The thing of that name, made at the end of the table where it is missing.
@@ -65,21 +66,48 @@ class NameTable {
     if (T* found = Find(name)) return *found;
     T& made = *order_.emplace_back(std::make_unique<T>());
     made.Name = name;
-    index_.emplace(made.Name, &made);
+    if (order_.size() * 2 > slots_.size())
+      Index(slots_.size() * 2);
+    else
+      AddSlot(order_.size());
     return made;
   }
 
   bool Remove(std::string_view name) {
     const T* found = Find(name);
     if (!found) return false;
-    index_.erase(name);
     std::erase_if(order_, [found](const auto& each) { return each.get() == found; });
+    Index(slots_.size());
     return true;
   }
 
  private:
+  // Where a thing stands in the order, counted from 1, or 0 in an empty slot. Slots lie in one row, and a name is
+  // looked for from the slot of its hash up to the next empty one: in a large table that touches far less memory than
+  // chains.
+  struct Slot {
+    std::uint32_t Hash = 0;
+    std::uint32_t Place = 0;
+  };
+
+  static std::uint32_t HashOf(std::string_view name) { return static_cast<std::uint32_t>(NameHash()(name)); }
+  // The number of slots is a power of two, and at least half of them are empty.
+  const Slot& SlotAt(std::size_t at) const { return slots_[at & (slots_.size() - 1)]; }
+
+  void AddSlot(std::size_t place) {
+    const std::uint32_t hash = HashOf(order_[place - 1]->Name);
+    std::size_t at = hash;
+    while (SlotAt(at).Place != 0) ++at;
+    slots_[at & (slots_.size() - 1)] = {hash, static_cast<std::uint32_t>(place)};
+  }
+
+  void Index(std::size_t size) {
+    slots_.assign(size, {});
+    for (std::size_t place = 1; place <= order_.size(); ++place) AddSlot(place);
+  }
+
   std::vector<std::unique_ptr<T>> order_;
-  std::unordered_map<std::string_view, T*, NameHash, NameEqual> index_;
+  std::vector<Slot> slots_ = std::vector<Slot>(2);
 };
 
 }  // namespace corvane::settings
