@@ -30,7 +30,10 @@ void ForEachMapping(modMain& main, const std::function<void(const std::string&, 
   PrivateProfile profile = OpenMappings(main);
   int count = 0;
   profile.GetIntValue("General", "NumComputers", count);
-  for (int i = 1; i <= count; ++i) {
+  // A garbled count must not hold the console: a file has fewer mappings than bytes.
+  std::uintmax_t bytes = 0;
+  PassOver([&] { bytes = main.Platform.Files.Length(profile.FileName); });
+  for (int i = 1; i <= count && static_cast<std::uintmax_t>(i) <= bytes; ++i) {
     std::string line;
     if (!profile.GetStringValue("Computers", "Computer" + std::to_string(i), line)) continue;
     const std::size_t bar = line.find('|');

@@ -93,6 +93,9 @@ TEST_F(CustomDomains, ListTheComputersMappedToThem) {
     Write(std::string("[General]\r\nNumComputers=") + count + "\r\n[Computers]\r\nComputer1=A|BRANCH\r\n");
     EXPECT_EQ(Names{}, ComputersOf("BRANCH")) << count;
   }
+  // A garbled count ends with the file, not after hours.
+  Write("[General]\r\nNumComputers=2000000000\r\n[Computers]\r\nComputer1=A|BRANCH\r\n");
+  EXPECT_EQ(Names{"A"}, ComputersOf("BRANCH"));
   EXPECT_TRUE(IsCustomDomain("CUSTOM: BRANCH"));
   EXPECT_FALSE(IsCustomDomain("custom: branch"));
 }
