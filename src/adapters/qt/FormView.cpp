@@ -65,7 +65,7 @@ FormView::FormView(ui::Form& form, const FormEntry& entry, Dispatcher& dispatche
   SetTabOrder();
   SetBuddies();
   Flush();
-  window_->resize(content_->size().expandedTo(window_->sizeHint()));
+  window_->resize(content_->size().expandedTo(window_->minimumSizeHint()));
 }
 
 FormView::~FormView() { Close(); }

@@ -2,13 +2,11 @@
 
 #include <QSplitter>
 #include <algorithm>
-#include <numeric>
 
 #include "adapters/qt/FormView.h"
 #include "adapters/qt/bindings/Binding.h"
 
 namespace corvane::qt {
-
 SplitterShares::SplitterShares(QWidget& content, const FormView& view) : view_(view) {
   for (QSplitter* splitter : content.findChildren<QSplitter*>()) {
     splitter->setChildrenCollapsible(false);
@@ -16,12 +14,14 @@ SplitterShares::SplitterShares(QWidget& content, const FormView& view) : view_(v
   }
 }
 
+// A splitter takes sizes as shares of what room it has, now and whenever it is resized.
 void SplitterShares::Flush() {
   for (Shared& shared : splitters_) {
     std::vector<int> shares = SharesOf(*shared.Splitter);
     if (shares == shared.Shares) continue;
     shared.Shares = std::move(shares);
-    Divide(*shared.Splitter, shared.Shares);
+    if (std::find(shared.Shares.begin(), shared.Shares.end(), 0) == shared.Shares.end())
+      shared.Splitter->setSizes({shared.Shares.begin(), shared.Shares.end()});
   }
 }
 
@@ -38,22 +38,6 @@ std::vector<int> SplitterShares::SharesOf(const QSplitter& splitter) const {
     }
   }
   return shares;
-}
-
-// The stretch factors keep the division when the window is made larger or smaller.
-void SplitterShares::Divide(QSplitter& splitter, const std::vector<int>& shares) {
-  const int total = std::accumulate(shares.begin(), shares.end(), 0);
-  if (total == 0) return;
-  int free = splitter.width() - splitter.handleWidth() * (splitter.count() - 1);
-  for (int pane = 0; pane < splitter.count(); ++pane)
-    if (shares[static_cast<std::size_t>(pane)] == 0) free -= splitter.widget(pane)->sizeHint().width();
-  QList<int> sizes;
-  for (int pane = 0; pane < splitter.count(); ++pane) {
-    const int share = shares[static_cast<std::size_t>(pane)];
-    splitter.setStretchFactor(pane, share);
-    sizes << (share == 0 ? splitter.widget(pane)->sizeHint().width() : std::max(0, free) * share / total);
-  }
-  splitter.setSizes(sizes);
 }
 
 }  // namespace corvane::qt

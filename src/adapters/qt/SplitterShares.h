@@ -9,8 +9,8 @@ namespace corvane::qt {
 
 class FormView;
 
-/// Gives the panes of a form's splitters their shares: that of the widest control which lies in a pane. Panes without
-/// one keep the size they ask for.
+/// Gives the panes of a form's splitters their shares: that of the widest control which lies in a pane. A splitter with
+/// a pane that has none is left alone.
 class SplitterShares {
  public:
   SplitterShares(QWidget& content, const FormView& view);
@@ -24,7 +24,6 @@ class SplitterShares {
   };
 
   std::vector<int> SharesOf(const QSplitter& splitter) const;
-  static void Divide(QSplitter& splitter, const std::vector<int>& shares);
 
   const FormView& view_;
   std::vector<Shared> splitters_;

@@ -47,11 +47,12 @@ void MenuBinding::Popup(const QPoint& place) {
 }
 
 void MenuBinding::Update() {
+  if (action_->isVisible() != control_.Visible) action_->setVisible(control_.Visible);
+  if (action_->isSeparator()) return;
   if (const QString caption = ToQt(control_.Caption); action_->text() != caption) action_->setText(caption);
   if (const QKeySequence key(ToQt(control_.Shortcut)); action_->shortcut() != key) action_->setShortcut(key);
   if (action_->icon().name() != ToQt(control_.Picture)) action_->setIcon(icons::Get(control_.Picture));
   if (action_->isEnabled() != control_.Enabled) action_->setEnabled(control_.Enabled);
-  if (action_->isVisible() != control_.Visible) action_->setVisible(control_.Visible);
 }
 
 }  // namespace corvane::qt

@@ -1,5 +1,6 @@
 #include "adapters/qt/bindings/TabBinding.h"
 
+#include <QTabBar>
 #include <QTabWidget>
 #include <algorithm>
 
@@ -9,6 +10,8 @@ namespace corvane::qt {
 
 TabBinding::TabBinding(FormView& view, ui::TabControl& control, QTabWidget* tabs)
     : Binding(view, control, tabs), control_(control), tabs_(tabs) {
+  // A click leaves the focus on the bar: it must not wander into the page and tell its first field of it.
+  tabs->tabBar()->setFocusPolicy(Qt::StrongFocus);
   connect(tabs, &QTabWidget::currentChanged, this, [this](int page) {
     if (!IsUsers() || page < 0) return;
     control_.Tab = page;

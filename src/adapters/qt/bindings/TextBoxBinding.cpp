@@ -6,6 +6,11 @@
 #include "adapters/qt/Text.h"
 
 namespace corvane::qt {
+namespace {
+
+constexpr int PageMargin = 10;
+
+}  // namespace
 
 LineBinding::LineBinding(FormView& view, ui::TextBox& control, QLineEdit* line)
     : Binding(view, control, line), control_(control), line_(line) {
@@ -22,6 +27,7 @@ void LineBinding::Update() {
 TextBinding::TextBinding(FormView& view, ui::TextBox& control, QPlainTextEdit* text)
     : Binding(view, control, text), control_(control), text_(text) {
   text->setTabChangesFocus(true);
+  text->document()->setDocumentMargin(PageMargin);
   connect(text, &QPlainTextEdit::textChanged, this, [this] {
     if (IsUsers()) control_.Text = shown_ = FromQt(text_->toPlainText());
   });

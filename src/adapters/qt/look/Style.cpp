@@ -10,6 +10,8 @@ namespace corvane::qt {
 namespace {
 
 constexpr int FieldHeight = 30;
+constexpr int FieldMargin = 4;
+constexpr int CellMargin = 5;
 constexpr int ButtonWidth = 92;
 constexpr int ScrollBarWidth = 12;
 constexpr int ShortestHandle = 28;
@@ -66,7 +68,8 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
     case PM_MessageBoxIconSize:
       return 40;
     case PM_HeaderMargin:
-      return 8;
+    case PM_FocusFrameHMargin:
+      return CellMargin;
     case PM_TabBarTabHSpace:
       return 30;
     case PM_TabBarTabVSpace:
@@ -110,7 +113,7 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
     case CT_ItemViewItem:
       return {result.width() + 6, std::max(result.height() + 6, 26)};
     case CT_HeaderSection:
-      return {result.width() + 6, std::max(result.height() + 4, FieldHeight)};
+      return {result.width() + 2 * CellMargin, FieldHeight};
     case CT_MenuItem:
       return {result.width() + 12, result.height() + 4};
     case CT_MenuBarItem:
@@ -129,6 +132,14 @@ QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* o
   QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
   // The title is written in a heavier face than the one it was measured in.
   if (control == CC_GroupBox && part == SC_GroupBoxLabel) rect.setWidth(rect.width() + rect.width() / 10 + 4);
+  if (control == CC_ComboBox && part == SC_ComboBoxEditField) rect.adjust(FieldMargin, 0, 0, 0);
+  return rect;
+}
+
+QRect Style::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const {
+  QRect rect = QProxyStyle::subElementRect(element, option, widget);
+  if (element == SE_LineEditContents && option->rect.height() >= FieldHeight)
+    rect.adjust(FieldMargin, 0, -FieldMargin, 0);
   return rect;
 }
 

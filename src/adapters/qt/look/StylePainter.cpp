@@ -31,10 +31,13 @@ bool StylePainter::Primitive(QStyle::PrimitiveElement element) {
       Field();
       return true;
     case QStyle::PE_Frame:
+      Frame(Has(QStyle::State_HasFocus) ? Accent() : LineColour());
+      return true;
     case QStyle::PE_FrameTabWidget:
-      painter_.setPen(Has(QStyle::State_HasFocus) ? Accent() : LineColour());
-      painter_.setBrush(Qt::NoBrush);
-      painter_.drawRect(Crisp(option_.rect));
+      Frame(LineColour());
+      return true;
+    case QStyle::PE_PanelScrollAreaCorner:
+      painter_.fillRect(option_.rect, option_.palette.base());
       return true;
     case QStyle::PE_IndicatorBranch:
       Branch();
@@ -77,6 +80,12 @@ void StylePainter::Box(const QRectF& rect, const QColor& fill, const QColor& lin
   painter_.setBrush(fill);
   painter_.drawRoundedRect(rect, Radius, Radius);
   painter_.restore();
+}
+
+void StylePainter::Frame(const QColor& line) {
+  painter_.setPen(line);
+  painter_.setBrush(Qt::NoBrush);
+  painter_.drawRect(Crisp(option_.rect));
 }
 
 void StylePainter::Button() {
@@ -144,14 +153,15 @@ void StylePainter::Header() {
   const QColor fill = option_.palette.window().color();
   painter_.fillRect(rect, Has(QStyle::State_MouseOver) ? Mix(fill, Accent(), 0.12) : fill);
   Line(rect.bottomLeft(), rect.bottomRight());
-  Line(rect.topRight() + QPoint(0, 7), rect.bottomRight() - QPoint(0, 7));
+  if (rect.right() < painter_.device()->width() - 1)
+    Line(rect.topRight() + QPoint(0, 7), rect.bottomRight() - QPoint(0, 7));
 }
 
 void StylePainter::Tab() {
   const QRect& rect = option_.rect;
   const bool selected = Has(QStyle::State_Selected);
   if (selected) {
-    painter_.fillRect(rect, option_.palette.base());
+    painter_.fillRect(rect, option_.palette.window());
     painter_.setPen(LineColour());
     painter_.drawLine(rect.topLeft(), rect.bottomLeft());
     painter_.drawLine(rect.topRight(), rect.bottomRight());
@@ -159,7 +169,6 @@ void StylePainter::Tab() {
   } else if (Has(QStyle::State_MouseOver)) {
     painter_.fillRect(rect.adjusted(0, 4, 0, -1), Mix(option_.palette.window().color(), Accent(), 0.08));
   }
-  if (!selected) Line(rect.bottomLeft(), rect.bottomRight());
 }
 
 void StylePainter::ProgressGroove() {
@@ -186,7 +195,7 @@ void StylePainter::ComboBox(const QStyleOptionComboBox& box, const QRect& arrow)
 }
 
 void StylePainter::GroupBox(const QStyleOptionGroupBox& group, const QRect& frame, const QRect& label) {
-  Box(Crisp(frame), Qt::transparent, LineColour());
+  Box(Crisp(frame).adjusted(0, label.height() + 4, 0, 0), Qt::transparent, LineColour());
   painter_.save();
   QFont font = painter_.font();
   font.setWeight(QFont::DemiBold);

@@ -21,6 +21,7 @@ class StylePainter {
   static bool IsAccented(const QStyleOptionButton& button);
 
  private:
+  void Frame(const QColor& line);
   void Button();
   void Field();
   void Branch();

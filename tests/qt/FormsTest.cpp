@@ -1,0 +1,193 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTest>
+#include <QTimer>
+#include <QTreeView>
+#include <functional>
+#include <set>
+
+#include "adapters/qt/FormView.h"
+#include "adapters/qt/QtHost.h"
+#include "app/assembly/InstalledPlatform.h"
+#include "app/installation/Installation.h"
+#include "core/console/Console.h"
+#include "core/console/frmBegin.h"
+#include "core/console/frmStartup.h"
+#include "logs/frmLogEdit.h"
+#include "support/TempFolder.h"
+
+namespace corvane::test {
+
+/// A console on a fresh installation, started with its real windows.
+class FormsTest : public ::testing::Test {
+ protected:
+  struct Started {
+    Started()
+        : Installed((Installation(CORVANE_SOURCE_DIR "/data").LayOut(Folder, Installation::Kind::Lab), Folder), Host),
+          App(Installed.Ports()) {
+      App.Main();
+    }
+    TempFolder Place;
+    std::filesystem::path Folder = Place.Path() / "installation";
+    qt::QtHost Host{qt::FormRegistry::Console(), CORVANE_SOURCE_DIR "/data/help"};
+    InstalledPlatform Installed;
+    Console App;
+  };
+
+  static void SetUpTestSuite() { started_ = new Started; }
+  static void TearDownTestSuite() {
+    delete started_;
+    started_ = nullptr;
+  }
+
+  static qt::QtHost& Host() { return started_->Host; }
+  static modMain& State() { return started_->App.State(); }
+  static frmCVMain& Main() { return started_->App.MainWindow(); }
+  static QWidget& Window(const ui::Form& form) { return Host().ViewOf(form)->Window(); }
+  static QTreeView& View(const ui::Control& control) {
+    return *Window(control.Parent()).findChild<QTreeView*>(QString::fromStdString(std::string(control.Name())));
+  }
+
+  /// Every form of the console, shown one after the other; each page of its tabs in front in turn.
+  static void ForEachForm(const std::function<void(ui::Form&)>& visit);
+  static void ForEachPage(ui::Form& form, const std::function<void()>& visit);
+
+ private:
+  static Started* started_;
+};
+
+FormsTest::Started* FormsTest::started_ = nullptr;
+
+void FormsTest::ForEachForm(const std::function<void(ui::Form&)>& visit) {
+  frmBegin begin(State());
+  frmStartup splash(State()), about(State());
+  frmLogEdit editor(State());
+  State().IsNewLog = true;
+  for (ui::Form* form : std::initializer_list<ui::Form*>{&Main(), &begin, &splash, &about, &editor}) {
+    form->Load();
+    if (form == &about) about.SetAbout(true);
+    if (form != &Main()) form->Show();
+    QTest::qWait(form == &editor ? 400 : 20);
+    visit(*form);
+  }
+}
+
+void FormsTest::ForEachPage(ui::Form& form, const std::function<void()>& visit) {
+  auto* tabs = Window(form).findChild<QTabWidget*>("tabMain");
+  for (int page = 0; page < (tabs != nullptr ? tabs->count() : 1); ++page) {
+    if (tabs != nullptr) tabs->setCurrentIndex(page);
+    QTest::qWait(10);
+    visit();
+  }
+  if (tabs != nullptr) tabs->setCurrentIndex(0);
+}
+
+TEST_F(FormsTest, EveryControlHasItsWidgetAndEveryWidgetItsControl) {
+  std::set<std::string> seen;
+  ForEachForm([&](ui::Form& form) {
+    seen.emplace(form.Name());
+    for (const std::string& mismatch : Host().ViewOf(form)->Mismatches())
+      ADD_FAILURE() << form.Name() << ": " << mismatch;
+  });
+  for (const std::string& name : qt::FormRegistry::Console().Names()) EXPECT_EQ(1U, seen.count(name)) << name;
+}
+
+// A widget is never smaller than its own text.
+TEST_F(FormsTest, NoTextIsCut) {
+  ForEachForm([&](ui::Form& form) {
+    ForEachPage(form, [&] {
+      for (QWidget* widget : Window(form).findChildren<QWidget*>()) {
+        auto* label = qobject_cast<QLabel*>(widget);
+        if (!widget->isVisible() || (label == nullptr && qobject_cast<QPushButton*>(widget) == nullptr)) continue;
+        const int needed = label != nullptr && label->wordWrap() ? 0 : widget->sizeHint().width();
+        EXPECT_LE(needed, widget->width()) << form.Name() << " " << widget->objectName().toStdString();
+        const int height = label != nullptr && label->wordWrap() ? label->heightForWidth(label->width())
+                                                                 : widget->minimumSizeHint().height();
+        EXPECT_LE(height, widget->height()) << form.Name() << " " << widget->objectName().toStdString();
+      }
+    });
+  });
+}
+
+// One letter stands for one thing on what is visible together.
+TEST_F(FormsTest, NoMnemonicIsGivenTwice) {
+  ForEachForm([&](ui::Form& form) {
+    ForEachPage(form, [&] {
+      std::multiset<QString> letters;
+      const auto take = [&](const QString& text) {
+        const QString letter = QKeySequence::mnemonic(text).toString();
+        if (!letter.isEmpty()) letters.insert(letter);
+      };
+      for (const QWidget* widget : Window(form).findChildren<QWidget*>()) {
+        if (!widget->isVisible()) continue;
+        if (auto* button = qobject_cast<const QPushButton*>(widget)) take(button->text());
+        if (auto* label = qobject_cast<const QLabel*>(widget); label != nullptr && label->buddy()) take(label->text());
+        if (auto* group = qobject_cast<const QGroupBox*>(widget)) take(group->title());
+        if (auto* bar = qobject_cast<const QTabBar*>(widget))
+          for (int tab = 0; tab < bar->count(); ++tab) take(bar->tabText(tab));
+      }
+      for (const QString& letter : letters)
+        EXPECT_EQ(1U, letters.count(letter)) << form.Name() << " " << letter.toStdString();
+    });
+  });
+}
+
+TEST_F(FormsTest, TheSplashHasItsSizeAndAboutGoesWithAClick) {
+  frmStartup about(State());
+  about.Load();
+  about.SetAbout(true);
+  QTimer::singleShot(50, qApp, [&] {
+    EXPECT_EQ(QSize(600, 365), Window(about).size());
+    QTest::mouseClick(Window(about).windowHandle(), Qt::LeftButton, Qt::NoModifier, {300, 250});
+  });
+  about.ShowModal();
+  EXPECT_TRUE(about.IsUnloaded());
+}
+
+TEST_F(FormsTest, ABundleDraggedToTheChosenSideIsAdded) {
+  State().IsNewLog = true;
+  frmLogEdit editor(State());
+  editor.Show();
+  QTest::qWait(400);
+  Window(editor).findChild<QTabWidget*>("tabMain")->setCurrentIndex(2);
+  Host().SetFocus(editor.lvwAlarmGroups);
+  QTest::qWait(20);
+  const QTreeView& bundles = View(editor.lvwAlarmGroups);
+  const QTreeView& chosen = View(editor.tvSelectedAlarms);
+  QWindow* window = Window(editor).windowHandle();
+  const QPoint start =
+      bundles.viewport()->mapTo(&Window(editor), bundles.visualRect(bundles.model()->index(1, 0)).center());
+  const QPoint end = chosen.mapTo(&Window(editor), chosen.rect().center());
+  QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, start);
+  for (int step = 1; step <= 5; ++step) QTest::mouseMove(window, start + (end - start) * step / 5);
+  QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, end);
+  QTest::qWait(20);
+  ASSERT_EQ(1, chosen.model()->rowCount());
+  EXPECT_EQ(editor.lvwAlarmGroups.Item(1).Text, chosen.model()->index(0, 0).data().toString().toStdString());
+}
+
+// A picture of every screen, for whoever wants to judge it.
+TEST_F(FormsTest, EveryScreenCanBePictured) {
+  const std::string folder = CORVANE_BINARY_DIR "/screens";
+  std::filesystem::create_directories(folder);
+  ForEachForm([&](ui::Form& form) {
+    int page = 0;
+    ForEachPage(form, [&] {
+      const std::string file = folder + "/" + std::string(form.Name()) + "-" + std::to_string(page++) + ".png";
+      EXPECT_TRUE(Host().SavePicture(form, file)) << file;
+      const QImage picture = Host().Picture(form);
+      std::set<QRgb> colours;
+      for (int x = 0; x < picture.width(); x += 3)
+        for (int y = 0; y < picture.height(); y += 3) colours.insert(picture.pixel(x, y));
+      EXPECT_GT(colours.size(), 20U) << file;
+    });
+  });
+}
+
+}  // namespace corvane::test
