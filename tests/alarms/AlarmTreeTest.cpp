@@ -89,8 +89,10 @@ TEST_F(AlarmTreeTest, ReadsAfreshAtEveryOpeningAndKeepsNothingClosed) {
       "INSERT INTO Alarms (Name, AlarmCategory) VALUES ('Controller', 'Disk Errors_2');"
       "DELETE FROM Alarms WHERE Name = 'bad block'");
   // Opened again without being closed: what is new comes, what stands stays once.
-  Open(Disk);
+  for (const auto& key : {Disk, std::string("LOGTYPE\\2\\2"), std::string("OS\\2")}) Open(key);
   EXPECT_EQ(3U, Below(Disk).size());
+  EXPECT_EQ(2U, Below("LOGTYPE\\2\\2").size());
+  EXPECT_EQ(6U, Below("OS\\2").size());
   Tree.Collapse(At(Disk));
   EXPECT_EQ(Lines{Disk + "\\DUMMYNODE"}, Below(Disk));
   Open(Disk);

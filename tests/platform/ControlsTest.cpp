@@ -128,7 +128,7 @@ TEST_F(Controls, TreeRemovesWholeBranchesAndTheirKeys) {
   EXPECT_EQ(errors::ElementNotFound, ErrorOf([&] { tree.Select(leaf); }));
   // A view that still knows the number of a node that went must not meet another one under it.
   tree.Clear();
-  EXPECT_EQ(7, add(0, "leaf"));
+  EXPECT_EQ(7, add(0, "root"));
 }
 
 TEST_F(Controls, ComboBoxTakesOtherTextsOnlyWhenEditable) {
