@@ -213,6 +213,8 @@ TEST_F(MainWindowTest, CommandsOpenTheirScreens) {
   EXPECT_FALSE(console.App.State().IsNewLog);
   EXPECT_EQ("MERA", console.App.State().SelectedName);
   EXPECT_EQ("Application", console.App.State().SelectedDetail);
+  Host().OnBox("The Event Viewer could not be started on this computer.");
+  Host().Press(Window().tbrMain, "eventviewer");
   Host().OnModal<frmStartup>("frmStartup", [&](frmStartup& about) {
     EXPECT_FALSE(about.prgStartup.Visible || about.lblProgress.Visible);
     EXPECT_EQ("Version:  1.0.0", about.lblVersion.Caption);

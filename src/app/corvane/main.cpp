@@ -6,6 +6,7 @@
 #include "adapters/qt/look/Look.h"
 #include "app/assembly/InstalledPlatform.h"
 #include "app/assembly/RunConsole.h"
+#include "app/installation/Installation.h"
 #include "platform/RuntimeError.h"
 
 namespace {
@@ -21,7 +22,7 @@ int main(int count, char** arguments) {
   QApplication application(count, arguments);
   corvane::qt::SetUpLook();
   const std::filesystem::path folder = InstallationFolder();
-  corvane::qt::QtHost host(corvane::qt::FormRegistry::Console(), (folder / "help").string());
+  corvane::qt::QtHost host(corvane::qt::FormRegistry::Console(), (folder / corvane::Installation::HelpFolder).string());
   try {
     corvane::InstalledPlatform installed(folder, host);
     return corvane::RunConsole(installed.Ports(), [&] { return host.Run(); });

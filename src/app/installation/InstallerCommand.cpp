@@ -13,7 +13,7 @@ constexpr const char* Usage =
     "Lays out an installation of the console in DIR, which must be missing or empty.\n"
     "\n"
     "  --lab        the lab network's first domain is chosen already\n"
-    "  --first-run  the first start asks for the domain and the service account (default)\n"
+    "  --first-run  what a first start asks for is left open (default)\n"
     "  --data DIR   where the files that an installation ships lie\n";
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "adapters/qt/look/Look.h"
 #include "app/assembly/InstalledPlatform.h"
 #include "app/assembly/RunConsole.h"
+#include "app/installation/Installation.h"
 #include "app/tour/MainJob.h"
 #include "app/tour/Script.h"
 #include "platform/RuntimeError.h"
@@ -20,7 +21,7 @@ int main(int count, char** arguments) {
   const std::filesystem::path folder = arguments[1];
   std::filesystem::create_directories(arguments[2]);
   corvane::qt::SetUpLook(corvane::qt::Scheme::Light);
-  corvane::qt::QtHost host(corvane::qt::FormRegistry::Console(), (folder / "help").string());
+  corvane::qt::QtHost host(corvane::qt::FormRegistry::Console(), (folder / corvane::Installation::HelpFolder).string());
   corvane::tour::Script script(arguments[2]);
   corvane::tour::AddMainJob(script);
   script.Start();

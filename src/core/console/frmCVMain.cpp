@@ -1,6 +1,7 @@
 #include "core/console/frmCVMain.h"
 
 #include "core/LogTypes.h"
+#include "core/PassOver.h"
 #include "core/console/SyslogDeviceList.h"
 #include "core/console/WatchedLogList.h"
 #include "core/console/frmStartup.h"
@@ -236,7 +237,8 @@ void frmCVMain::mnuFileEdit_Click() {
 void frmCVMain::mnuFileEventViewer_Click() {
   const int row = lvwComputers.SelectedRow();
   if (row < 0) return;
-  main_.Platform.Launcher.Run("eventvwr " + lvwComputers.Item(row).Text);
+  if (!PassOver([&] { main_.Platform.Launcher.Run("eventvwr " + lvwComputers.Item(row).Text); }))
+    main_.Ui.MsgBox("The Event Viewer could not be started on this computer.", ui::MsgIcon::Exclamation);
 }
 
 void frmCVMain::mnuViewRefresh_Click() {
