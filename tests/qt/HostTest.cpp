@@ -117,6 +117,8 @@ TEST_F(HostTest, AnEditableBoxTakesWhatIsTyped) {
   QTest::keyClicks(WidgetOf<QComboBox>(form.lstLog).lineEdit(), "S1");
   EXPECT_EQ("S/-1 S1/-1 ", changes);
   EXPECT_EQ("S1", WidgetOf<QComboBox>(form.lstLog).currentText());
+  QTest::keyClick(&WidgetOf<QComboBox>(form.lstLog), Qt::Key_Return);
+  EXPECT_TRUE(form.IsUnloaded());
 }
 
 TEST_F(HostTest, ModalFormsNestAndGiveTheirOpenerBack) {
@@ -384,9 +386,11 @@ TEST_F(HostTest, F1OpensTheFormsTopicBesideAModalForm) {
     for (QWidget* window : QApplication::topLevelWidgets())
       if (auto* found = dynamic_cast<qt::HelpWindow*>(window)) help = found;
     if (help == nullptr) throw std::runtime_error("no help window");
-    EXPECT_TRUE(help->isVisible());
+    EXPECT_TRUE(QTest::qWaitForWindowActive(help));
     EXPECT_TRUE(help->loadResource(QTextDocument::HtmlResource, QUrl("file:///etc/hostname")).isNull());
     EXPECT_TRUE(help->loadResource(QTextDocument::HtmlResource, QUrl("http://127.0.0.1/")).isNull());
+    QTest::keyClick(help->windowHandle(), Qt::Key_Escape);
+    EXPECT_FALSE(help->isVisible());
     Click(form.cmdOK);
   });
   form.ShowModal();

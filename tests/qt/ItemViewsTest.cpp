@@ -258,6 +258,7 @@ TEST_F(ItemViewsTest, TheSideUnderThePointerBecomesTheWideOne) {
   form.lvwRows.MouseMove = [&] { widen(5820, 2610); };
   form.tvTree.GotFocus = [&] { widen(2610, 5865); };
   form.Show();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&Host.ViewOf(form)->Window()));
   EXPECT_NEAR(5865.0 / 2610, 1.0 * Tree().width() / List().width(), 0.05);
   const auto moveTo = [](const QWidget& widget) {
     QTest::mouseMove(widget.window()->windowHandle(), widget.mapTo(widget.window(), widget.rect().center()));

@@ -138,6 +138,7 @@ void QtHost::Flush() {
   }
   for (std::size_t i = views_.size(); i-- > 0;)
     if (!views_[i]->IsOpen() && !views_[i]->Closed) Retire(*views_[i]);
+  if (!retired_.empty()) clearing_.start(0);
   if (main_ != nullptr && views_.empty()) main_->quit();
 }
 

@@ -6,12 +6,18 @@
 #include "adapters/qt/Text.h"
 
 namespace corvane::qt {
+namespace {
+
+constexpr int LongestList = 16;
+
+}  // namespace
 
 // Without a completer: it would put more into the box than was typed.
 ComboBoxBinding::ComboBoxBinding(FormView& view, ui::ComboBox& control, QComboBox* box)
     : Binding(view, control, box), control_(control), box_(box) {
   box->setEditable(control.Editable);
   box->setInsertPolicy(QComboBox::NoInsert);
+  box->setMaxVisibleItems(LongestList);
   if (control.Editable) {
     box->setCompleter(nullptr);
     connect(box->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) { Typed(text); });
