@@ -3,6 +3,7 @@
 #include "logs/LogInspection.h"
 #include "platform/EventLogs.h"
 #include "platform/RuntimeError.h"
+#include "support/ReplacedPorts.h"
 
 namespace corvane::test {
 namespace {
@@ -68,22 +69,7 @@ TEST_F(CountersTest, WhatCannotBeReadCountsNothing) {
   EXPECT_EQ("0 0", Read("MERBACKUP"));
   EXPECT_EQ("0 0", Read("NOSUCHPC"));
   FailingLogs logs;
-  Platform ports{console.Ports.System,
-                 console.Ports.Files,
-                 console.Ports.Registry,
-                 console.Ports.Profiles,
-                 console.Ports.Data,
-                 console.Ports.Services,
-                 logs,
-                 console.Ports.NetX,
-                 console.Ports.Directory,
-                 console.Ports.Units,
-                 console.Ports.Ping,
-                 console.Ports.Launcher,
-                 console.Ports.Instance,
-                 console.Ports.Ui,
-                 {},
-                 {}};
+  Platform ports = Replace(console.Ports, {.EventLogs = &logs});
   modMain main(ports);
   for (const bool oldestFails : {true, false}) {
     logs.OldestFails = oldestFails;

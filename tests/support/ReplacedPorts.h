@@ -7,6 +7,7 @@ namespace corvane::test {
 /// The ports that a test puts in place of those of an installation; null keeps the installation's own.
 struct Replacements {
   corvane::Files* Files = nullptr;
+  corvane::EventLogs* EventLogs = nullptr;
   corvane::NetX* NetX = nullptr;
   corvane::DirectoryProvider* Directory = nullptr;
   UnitQuery* Units = nullptr;
@@ -21,7 +22,7 @@ inline Platform Replace(const Platform& ports, const Replacements& with) {
                   ports.Profiles,
                   ports.Data,
                   ports.Services,
-                  ports.EventLogs,
+                  choose(with.EventLogs, ports.EventLogs),
                   choose(with.NetX, ports.NetX),
                   choose(with.Directory, ports.Directory),
                   choose(with.Units, ports.Units),
