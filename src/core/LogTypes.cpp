@@ -17,6 +17,8 @@ const std::string& LogName(int number) {
   return number >= 1 && number <= 6 ? LogTypeNames[static_cast<std::size_t>(number - 1)] : none;
 }
 
+std::string ConvNumToLogType(int number) { return number == 5 ? "Directory Server" : LogName(number); }
+
 std::string MakeIDName(std::string_view computer, int logNumber) {
   return std::string(computer) + std::to_string(logNumber);
 }

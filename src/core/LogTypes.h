@@ -15,6 +15,9 @@ int LogNumber(std::string_view name);
 /// The name of a log number; empty outside 1 to 6.
 const std::string& LogName(int number);
 
+/// The same with one word of its own: it has always said "Directory Server" for 5. No list shows what it gives.
+std::string ConvNumToLogType(int number);
+
 /// The key of a watched log: the computer as it was entered, directly followed by the log number.
 std::string MakeIDName(std::string_view computer, int logNumber);
 

@@ -1,4 +1,5 @@
 #include "logs/LogEditFixture.h"
+#include "core/LogTypes.h"
 #include "platform/RuntimeError.h"
 #include "support/LogRows.h"
 
@@ -122,6 +123,16 @@ TEST_F(LogEditTest, RefusalsWriteNothingAndLeaveTheScreenOpen) {
     EXPECT_EQ(ui::MsgIcon::Exclamation, box.Icon);
     EXPECT_EQ(ui::MsgButtons::Ok, box.Buttons);
   }
+}
+
+TEST_F(LogEditTest, OnlyTheOldRoutineSaysDirectoryServer) {
+  EXPECT_EQ("Directory Server", ConvNumToLogType(5));
+  EXPECT_EQ("", ConvNumToLogType(0) + ConvNumToLogType(7));
+  Add([&](frmLogEdit& form) {
+    for (int log = 1; log <= 6; ++log)
+      EXPECT_EQ(log != 5, ConvNumToLogType(log) == form.lstLogType[log - 1]) << log;
+    EXPECT_EQ("Directory Service", form.lstLogType[4]);
+  });
 }
 
 TEST(LogEditOnAnOlderSystem, RefusesTheLogsOfNewerComputersBeforeAnythingIsWritten) {
