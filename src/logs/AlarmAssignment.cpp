@@ -81,11 +81,11 @@ void AlarmAssignment::LoadBundleList() {
 
 // Read by the log's key alone, without its domain.
 void AlarmAssignment::LoadAttached(const std::string& idName) {
-  PassOver([&] { LoadAlarms(idName); });
-  PassOver([&] { LoadBundles(idName); });
+  PassOver([&] { LoadAssociatedAlarms(idName); });
+  PassOver([&] { LoadAssociatedBundles(idName); });
 }
 
-void AlarmAssignment::LoadAlarms(const std::string& idName) {
+void AlarmAssignment::LoadAssociatedAlarms(const std::string& idName) {
   Connection& connection = *main_.ConfigConnection;
   const std::string attached = std::string("SELECT * FROM ") + tables_.Singles + " WHERE IDName = '" + idName + "'";
   ForEachRow(main_, attached, CursorType::Dynamic, LockType::Optimistic, [&](Recordset& row) {
@@ -100,7 +100,7 @@ void AlarmAssignment::LoadAlarms(const std::string& idName) {
   });
 }
 
-void AlarmAssignment::LoadBundles(const std::string& idName) {
+void AlarmAssignment::LoadAssociatedBundles(const std::string& idName) {
   const std::string attached = std::string("SELECT * FROM ") + tables_.Bundles + " WHERE IDName = '" + idName + "'";
   ForEachRow(main_, attached, CursorType::Dynamic, LockType::Optimistic, [&](Recordset& row) {
     const std::string id = ToText(row.Field("AlarmGroupID"));
@@ -144,7 +144,7 @@ void AlarmAssignment::AddAlarm(ui::NodeId node) {
 
 void AlarmAssignment::RemoveSelected() { chosen_.RemoveSelected(); }
 
-void AlarmAssignment::Save(AttachmentRows& rows) const {
+void AlarmAssignment::SaveAlarms(AttachmentRows& rows) const {
   std::vector<std::string> singles;
   for (const ui::NodeId id : controls_.Chosen.InTreeOrder()) {
     const ui::TreeNode& node = controls_.Chosen.Node(id);
@@ -155,7 +155,7 @@ void AlarmAssignment::Save(AttachmentRows& rows) const {
       singles.push_back(rows.FindAlarmID(node.Text, chosenkey::CategoryIndex(node.Key)));
   }
   for (const std::string& alarm : singles)
-    if (!rows.InAttachedBundle(tables_, alarm)) rows.InsertAlarm(tables_, alarm);
+    if (!rows.AlarmInAttachedBundle(tables_, alarm)) rows.InsertAlarm(tables_, alarm);
 }
 
 }  // namespace corvane

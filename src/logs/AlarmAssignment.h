@@ -30,7 +30,7 @@ class AlarmAssignment {
   /// Adds what is attached to a log: single alarms first, then bundles. Rows that name nothing any more add nothing.
   void LoadAttached(const std::string& idName);
   /// Writes what is chosen: every bundle, then each single alarm that no attached bundle holds.
-  void Save(AttachmentRows& rows) const;
+  void SaveAlarms(AttachmentRows& rows) const;
 
   /// The handlers of the two buttons.
   void AddSelected();
@@ -39,8 +39,8 @@ class AlarmAssignment {
  private:
   void WireHandlers();
   void LoadBundleList();
-  void LoadAlarms(const std::string& idName);
-  void LoadBundles(const std::string& idName);
+  void LoadAssociatedAlarms(const std::string& idName);
+  void LoadAssociatedBundles(const std::string& idName);
   void AddBundleRow();
   void AddCategory(ui::NodeId category);
   void AddAlarm(ui::NodeId node);

@@ -26,7 +26,7 @@ void AttachmentRows::Insert(const char* table, const char* column, const std::st
                                   ") VALUES ('" + idName_ + "', '" + domain_ + "', " + value + ")");
 }
 
-bool AttachmentRows::InAttachedBundle(const AttachmentTables& tables, const std::string& alarmId) {
+bool AttachmentRows::AlarmInAttachedBundle(const AttachmentTables& tables, const std::string& alarmId) {
   Connection& connection = *main_.ConfigConnection;
   const auto bundles = main_.Platform.Data.NewRecordset();
   bundles->Open(std::string("SELECT * FROM ") + tables.Bundles + " WHERE IDName=" + QuoteSqlText(idName_), connection,

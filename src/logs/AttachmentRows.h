@@ -23,7 +23,7 @@ class AttachmentRows {
   void InsertBundle(const AttachmentTables& tables, const std::string& id);
   void InsertAlarm(const AttachmentTables& tables, const std::string& id);
   /// True when a bundle that is attached to the log holds the alarm. Bundles must be written before this is asked.
-  bool InAttachedBundle(const AttachmentTables& tables, const std::string& alarmId);
+  bool AlarmInAttachedBundle(const AttachmentTables& tables, const std::string& alarmId);
   /// Number of the alarm of a name in a category. Raises when there is none.
   std::string FindAlarmID(const std::string& name, const std::string& categoryIndex);
 

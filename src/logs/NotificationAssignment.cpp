@@ -42,7 +42,7 @@ void NotificationAssignment::SetAvailableWide(bool wide) {
   attached_.Width = wide ? assignment::Narrow : assignment::WideChosen;
 }
 
-void NotificationAssignment::FillAvailable() {
+void NotificationAssignment::LoadNotificationList() {
   available_.Clear();
   attached_.Clear();
   const auto rows = main_.Platform.Data.NewRecordset();
@@ -53,7 +53,7 @@ void NotificationAssignment::FillAvailable() {
   });
 }
 
-void NotificationAssignment::LoadAttached(const std::string& idName) {
+void NotificationAssignment::LoadAssociatedNotifications(const std::string& idName) {
   PassOver([&] {
     const auto rows = main_.Platform.Data.NewRecordset();
     rows->Open("SELECT * FROM NotificationsForLogs WHERE IDName = '" + idName + "'", *main_.ConfigConnection,
@@ -104,7 +104,7 @@ void NotificationAssignment::RemoveSelected() {
     if (attached_.Item(row).Selected) attached_.Remove(row);
 }
 
-void NotificationAssignment::Save(AttachmentRows& rows) const {
+void NotificationAssignment::SaveNotifications(AttachmentRows& rows) const {
   for (const ui::ListItem& item : attached_.Items()) rows.InsertNotification(item.Text);
 }
 

@@ -18,10 +18,10 @@ class NotificationAssignment {
   NotificationAssignment(modMain& main, ui::ListView& available, ui::ListView& attached);
 
   /// Fills the list of defined notifications and empties the attached ones.
-  void FillAvailable();
+  void LoadNotificationList();
   /// Adds what is attached to a log. Rows whose notification is gone add nothing.
-  void LoadAttached(const std::string& idName);
-  void Save(AttachmentRows& rows) const;
+  void LoadAssociatedNotifications(const std::string& idName);
+  void SaveNotifications(AttachmentRows& rows) const;
 
   /// Attaches all selected notifications; adds nothing when one of them is attached already.
   void AddSelected();

@@ -87,7 +87,7 @@ void frmLogEdit::tmrLoad_Timer() {
   SetBusy(true);
   alarms_.FillAvailable();
   ignores_.FillAvailable();
-  notifications_.FillAvailable();
+  notifications_.LoadNotificationList();
   tabMain_Click();
   if (main_.IsNewLog)
     OpenForAdd();
@@ -121,7 +121,7 @@ void frmLogEdit::OpenForEdit() {
   const std::string idName = main_.CVMain->CurrentIDName();
   alarms_.LoadAttached(idName);
   ignores_.LoadAttached(idName);
-  notifications_.LoadAttached(idName);
+  notifications_.LoadAssociatedNotifications(idName);
   PassOver([&] { LoadComputerAndLog(idName); });
   PassOver([&] { LoadStatistics(main_, idName, lstStatistics); });
   PassOver([&] { InspectComputerAndLog(main_, lstComputerName.Text(), lstLogType.Text(), lstServerStatistics); });
@@ -230,9 +230,9 @@ bool frmLogEdit::UpdateWatchedLog() {
 
 void frmLogEdit::SaveAttachments(const std::string& idName) {
   AttachmentRows rows(main_, idName, Domain());
-  notifications_.Save(rows);
-  ignores_.Save(rows);
-  alarms_.Save(rows);
+  notifications_.SaveNotifications(rows);
+  ignores_.SaveAlarms(rows);
+  alarms_.SaveAlarms(rows);
   StampLastDBUpdate(main_);
 }
 
