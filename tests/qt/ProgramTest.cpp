@@ -37,10 +37,26 @@ class ProgramTest : public ::testing::Test {
   const std::filesystem::path folder_ = place_.Path() / "installation";
 };
 
-TEST_F(ProgramTest, EndsWhenItsWindowIsClosed) {
+// The margins are fixed: the list takes what a larger window gives, and the box of domains keeps to the right edge.
+void GrowAndCheck(QWidget& window) {
+  const auto& list = *window.findChild<QWidget*>("lvwComputers");
+  const auto& box = *window.findChild<QWidget*>("lstDomain");
+  const auto right = [&] { return window.width() - box.mapTo(&window, box.rect().topRight()).x(); };
+  const QSize before = list.size();
+  const int margin = right();
+  window.resize(window.size() + QSize(200, 100));
+  QApplication::processEvents();
+  EXPECT_EQ(before + QSize(200, 100), list.size());
+  EXPECT_EQ(margin, right());
+}
+
+TEST_F(ProgramTest, FollowsItsWindowAndEndsWhenThatIsClosed) {
   Soon([] {
     for (QWidget* window : QApplication::topLevelWidgets())
-      if (window->objectName() == "frmCVMain" && window->isVisible()) return window->close();
+      if (window->objectName() == "frmCVMain" && window->isVisible()) {
+        GrowAndCheck(*window);
+        return window->close();
+      }
     return false;
   });
   EXPECT_EQ(0, Run());
