@@ -2,12 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <deque>
-
-#include "core/Settings.h"
 #include "core/modMain.h"
+#include "domains/ToldNetX.h"
 #include "platform/DirectoryProvider.h"
-#include "platform/NetX.h"
 #include "platform/RuntimeError.h"
 #include "support/ReplacedPorts.h"
 #include "support/TestConsole.h"
@@ -17,59 +14,35 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-class ToldServers : public NetX {
- public:
-  struct Answer {
-    bool More;
-    std::string Name;
-  };
-
-  bool EnumServers(const std::string& domain, std::string& name, std::uint32_t types, int mode) override {
-    Asked += domain + " " + std::to_string(types) + " " + std::to_string(mode) + "; ";
-    if (Answers.empty()) return false;
-    const Answer answer = Answers.front();
-    Answers.pop_front();
-    name = answer.Name;
-    return answer.More;
-  }
-  bool EnumTrustedDomains(const std::string&, std::string&, int) override { return false; }
-  bool QueryOSVersion(const std::string&, int&, int&) override { return false; }
-
-  std::deque<Answer> Answers;
-  std::string Asked;
-};
-
-/// Accounts with their flags; -1 cannot be bound.
-class ToldAccounts : public DirectoryProvider {
+/// Accounts with their flags, of which one with -1 cannot be bound, and the computers of a unit. With none it fails.
+class ToldDirectory : public DirectoryProvider, public UnitQuery {
  public:
   Names Children(const std::string& path, const std::string& objectClass) override {
     Asked += path + " " + objectClass + "; ";
-    if (Fails) throw RuntimeError(errors::AutomationError, "Automation error");
     Names names;
     for (const auto& [name, flags] : Accounts) names.push_back(name);
-    return names;
+    return Found(names);
   }
   long UserFlags(const std::string& path) override {
     Asked += path + "; ";
     for (const auto& [name, flags] : Accounts)
-      if (flags >= 0 && path.find("/" + name + "$") != path.npos) return flags;
+      if (flags >= 0 && path == "WinNT://HARBOR/" + name + "$") return flags;
     throw RuntimeError(errors::AutomationError, "Automation error");
+  }
+  Names Search(const std::string& commandText) override {
+    Asked += commandText;
+    return Found(Unit);
   }
 
   std::vector<std::pair<std::string, long>> Accounts;
-  bool Fails = false;
+  Names Unit;
   std::string Asked;
-};
 
-class ToldUnit : public UnitQuery {
- public:
-  Names Search(const std::string& commandText) override {
-    Asked = commandText;
-    if (Found.empty()) throw RuntimeError(errors::AutomationError, "Automation error");
-    return Found;
+ private:
+  static Names Found(const Names& names) {
+    if (names.empty()) throw RuntimeError(errors::AutomationError, "Automation error");
+    return names;
   }
-  Names Found;
-  std::string Asked;
 };
 
 class Computers : public testing::Test {
@@ -81,74 +54,50 @@ class Computers : public testing::Test {
   }
 
   TestConsole Console;
-  ToldServers Net;
-  ToldAccounts Accounts;
-  ToldUnit Unit;
-  Platform Ports = Replace(Console.Ports, {.NetX = &Net, .Directory = &Accounts, .Units = &Unit});
+  ToldNetX Net;
+  ToldDirectory Directory;
+  Platform Ports = Replace(Console.Ports, {.NetX = &Net, .Directory = &Directory, .Units = &Directory});
   modMain Main{Ports};
   const Names Local{"CVCONSOLE1"};
 };
 
 TEST_F(Computers, OfTheBrowseListAreThoseThatComeWithTrue) {
-  using Answers = std::deque<ToldServers::Answer>;
-  struct {
-    const char* What;
-    Answers Told;
-    Names Listed;
-  } const cases[] = {
-      {"several", {{true, "b"}, {true, "A"}, {false, "tail"}}, {"b", "A"}},
-      {"one with false", {{false, "ONLY"}}, {"ONLY"}},
-      {"none", {{false, ""}}, Local},
-  };
-  for (const auto& c : cases) {
-    Net.Answers = c.Told;
-    EXPECT_EQ(c.Listed, List()) << c.What;
+  const std::pair<std::deque<ToldNetX::Answer>, Names> cases[] = {
+      {{{true, "b"}, {true, "A"}, {false, "tail"}}, {"b", "A"}}, {{{false, "ONLY"}}, {"ONLY"}}, {{}, Local}};
+  for (const auto& [told, listed] : cases) {
+    Net.Servers = told;
+    EXPECT_EQ(listed, List());
   }
   EXPECT_EQ("HARBOR 4096 1; HARBOR 4096 0; HARBOR 4096 0; HARBOR 4096 1; HARBOR 4096 1; ", Net.Asked);
-}
-
-TEST_F(Computers, ComeFromTheBrowseListForEveryOtherSource) {
   for (const char* source : {"0", "3", "-1", "1.5", "none", ""}) {
     Main.SaveSetting("ComputerEnum", source);
-    Net.Answers = {{true, "A"}, {false, ""}};
+    Net.Servers = {{true, "A"}};
     EXPECT_EQ(Names{"A"}, List()) << source;
   }
-  Main.Registry.DeleteKeyValue(SettingsKey, "ComputerEnum");
-  Net.Answers = {{true, "A"}, {false, ""}};
-  EXPECT_EQ(Names{"A"}, List());
-  EXPECT_EQ("", Accounts.Asked + Unit.Asked);
+  EXPECT_EQ("", Directory.Asked);
 }
 
 TEST_F(Computers, OfAccountsLeaveOutControllersOnRequest) {
   Main.SaveSetting("ComputerEnum", "1");
-  Accounts.Accounts = {{"DC", 8192}, {"GONE", -1}, {"MEMBER", 4096}, {"NEARLY", 8191}, {"RODC", 83890176}};
+  EXPECT_EQ(Local, List());
+  Directory.Accounts = {{"DC", 8192}};
+  EXPECT_EQ(Local, List(false));
+  Directory.Accounts = {{"DC", 8192}, {"GONE", -1}, {"MEMBER", 4096}, {"NEARLY", 8191}, {"RODC", 83890176}};
   EXPECT_EQ((Names{"DC", "MEMBER", "NEARLY", "RODC"}), List());
   EXPECT_EQ((Names{"MEMBER", "NEARLY"}), List(false));
-  Accounts.Accounts = {{"DC", 8192}};
-  EXPECT_EQ(Local, List(false));
-  Accounts.Accounts.clear();
-  Accounts.Asked.clear();
-  EXPECT_EQ(Local, List());
-  EXPECT_EQ("WinNT://HARBOR computer; ", Accounts.Asked);
-  Accounts.Fails = true;
-  EXPECT_EQ(Local, List());
-}
-
-TEST_F(Computers, AreBoundByTheirAccountInCapitals) {
-  Main.SaveSetting("ComputerEnum", "1");
-  Accounts.Accounts = {{"Web1", 4096}};
+  Directory.Accounts = {{"Web1", 4096}};
+  Directory.Asked.clear();
   List();
-  EXPECT_EQ("WinNT://HARBOR computer; WinNT://HARBOR/WEB1$; ", Accounts.Asked);
+  EXPECT_EQ("WinNT://HARBOR computer; WinNT://HARBOR/WEB1$; ", Directory.Asked) << "an account is bound in capitals";
 }
 
 TEST_F(Computers, OfAUnitComeInCapitals) {
   Main.SaveSetting("ComputerEnum", "2");
   Main.SaveSetting("OUPath", "LDAP://OU=Web,DC=harbor,DC=example");
-  Unit.Found = {"web2", "Web1"};
-  EXPECT_EQ((Names{"WEB2", "WEB1"}), List());
-  EXPECT_EQ("<LDAP://OU=Web,DC=harbor,DC=example>;(objectClass=computer);name;subtree", Unit.Asked);
-  Unit.Found.clear();
   EXPECT_EQ(Local, List());
+  EXPECT_EQ("<LDAP://OU=Web,DC=harbor,DC=example>;(objectClass=computer);name;subtree", Directory.Asked);
+  Directory.Unit = {"web2", "Web1"};
+  EXPECT_EQ((Names{"WEB2", "WEB1"}), List());
 }
 
 TEST_F(Computers, OfTheLabFillABoxAndTheFirstIsChosen) {
@@ -169,7 +118,6 @@ TEST_F(Computers, OfTheLabFillABoxAndTheFirstIsChosen) {
     main.SaveSetting("ComputerEnum", c.Source);
     FillComputerList(main, c.Domain, box);
     EXPECT_EQ(c.First, box.Text());
-    EXPECT_EQ(0, box.ListIndex());
     EXPECT_EQ(c.Count, box.Count());
   }
 }
