@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <utility>
+#include <vector>
 
 #include "platform/RuntimeError.h"
 #include "platform/data/Value.h"
@@ -23,47 +25,22 @@ std::string Outcome(Work work) {
 }
 
 TEST(Conversions, RoundHalvesToEvenAndOverflowWithAnError) {
-  struct {
-    const char *Text, *Outcome;
-  } const cases[] = {
-      {"7", "7"},
-      {" -7 ", "-7"},
-      {"+.5", "0"},
-      {"1.5", "2"},
-      {"2.5", "2"},
-      {"-2.5", "-2"},
-      {"-3.5", "-4"},
-      {"1.", "1"},
-      {"1e3", "1000"},
-      {"1E+3", "1000"},
-      {"15e-1", "2"},
-      {"2147483647", "2147483647"},
-      {"2147483647.4", "2147483647"},
-      {"2147483647.5", "error 6"},
-      {"-2147483648.5", "-2147483648"},
-      {"-2147483649", "error 6"},
-      {"1e999", "error 6"},
-      {"-1e999", "error 6"},
-      {"1e-999", "0"},
-      {"0e999", "0"},
-      {"", "error 13"},
-      {" ", "error 13"},
-      {"-", "error 13"},
-      {".", "error 13"},
-      {"e5", "error 13"},
-      {"1e", "error 13"},
-      {"1 2", "error 13"},
-      {"--1", "error 13"},
-      {"0x10", "error 13"},
-      {"1,5", "error 13"},
-      {"nan", "error 13"},
-      {"inf", "error 13"},
-      {"7\n", "error 13"},
+  const std::pair<std::string, std::vector<const char*>> cases[] = {
+      {"0", {"+.5", "-0.5", "1e-999", "0e999"}},
+      {"2", {"1.5", "2.5", "15e-1", " 2 ", "2."}},
+      {"-2", {"-1.5", "-2.5"}},
+      {"-4", {"-3.5"}},
+      {"1000", {"1e3", "1E+3"}},
+      {"2147483647", {"2147483647.4"}},
+      {"-2147483648", {"-2147483648.5"}},
+      {"error 6", {"2147483647.5", "-2147483649", "1e999", "-1e999"}},
+      {"error 13", {"", " ", "-", ".", "e5", "1e", "1 2", "--1", "0x10", "1,5", "nan", "inf", "7\n"}},
   };
-  for (const auto& c : cases) {
-    EXPECT_EQ(c.Outcome, Outcome([&] { return TextToInt32(c.Text); })) << c.Text;
-    EXPECT_EQ(std::string(c.Outcome) != "error 13", IsNumeric(c.Text)) << c.Text;
-  }
+  for (const auto& [outcome, texts] : cases)
+    for (const char* text : texts) {
+      EXPECT_EQ(outcome, Outcome([&] { return TextToInt32(text); })) << text;
+      EXPECT_EQ(outcome != "error 13", IsNumeric(text)) << text;
+    }
   EXPECT_EQ("error 6", Outcome([] { return RoundToInt32(std::nan("")); }));
 }
 
@@ -78,28 +55,18 @@ TEST(Conversions, KnowNumbersTooSmallFromNumbersTooLarge) {
 }
 
 TEST(Conversions, ReadUpToTheFirstOddCharacter) {
-  struct {
-    std::string Text;
-    double Number;
-  } const cases[] = {
-      {"", 0},
-      {"12 apples", 12},
-      {" 1 2\t3\n", 123},
-      {"1.0", 1},
-      {"1.4.4", 1.4},
-      {"-.5x", -0.5},
-      {"abc", 0},
-      {"-", 0},
-      {"1e", 1},
-      {"1e+x", 1},
-      {"2e2", 200},
-      {"$5", 0},
-      {std::string("1\0"
-                   "9",
-                   3),
-       1},
+  const std::string endsAtZero{'1', '\0', '9'};
+  const std::pair<double, std::vector<std::string>> cases[] = {
+      {0, {"", "abc", "-", "$5"}},
+      {1, {"1.0", "1e", "1e+x", endsAtZero}},
+      {12, {"12 apples", "1 2"}},
+      {123, {" 1 2\t3\n"}},
+      {1.4, {"1.4.4"}},
+      {-0.5, {"-.5x"}},
+      {200, {"2e2"}},
   };
-  for (const auto& c : cases) EXPECT_EQ(c.Number, Val(c.Text)) << c.Text;
+  for (const auto& [number, texts] : cases)
+    for (const std::string& text : texts) EXPECT_EQ(number, Val(text)) << text;
 }
 
 TEST(Conversions, CompareWithoutCaseUpToLatinLetters) {
@@ -131,22 +98,20 @@ TEST(Values, AreReadAsTextNumberAndBoolean) {
   struct {
     Value Stored;
     const char *Text, *Number, *Flag;
-  } const cases[] = {
-      {{}, "error 94", "error 94", "error 94"},
-      {std::int64_t{0}, "0", "0", "0"},
-      {std::int64_t{-5}, "-5", "-5", "1"},
-      {std::int64_t{2147483648}, "2147483648", "error 6", "1"},
-      {2.5, "2.5", "2", "1"},
-      {0.1, "0.1", "0", "1"},
-      {-0.5, "-0.5", "0", "1"},
-      {true, "True", "-1", "1"},
-      {false, "False", "0", "0"},
-      {std::string("tRUE"), "tRUE", "error 13", "1"},
-      {std::string("False"), "False", "error 13", "0"},
-      {std::string("3.5"), "3.5", "4", "1"},
-      {std::string(), "", "error 13", "error 13"},
-      {std::string("1e10"), "1e10", "error 6", "error 6"},
-  };
+  } const cases[] = {{{}, "error 94", "error 94", "error 94"},
+                     {std::int64_t{0}, "0", "0", "0"},
+                     {std::int64_t{-5}, "-5", "-5", "1"},
+                     {std::int64_t{2147483648}, "2147483648", "error 6", "1"},
+                     {2.5, "2.5", "2", "1"},
+                     {0.1, "0.1", "0", "1"},
+                     {-0.5, "-0.5", "0", "1"},
+                     {true, "True", "-1", "1"},
+                     {false, "False", "0", "0"},
+                     {std::string("tRUE"), "tRUE", "error 13", "1"},
+                     {std::string("False"), "False", "error 13", "0"},
+                     {std::string("3.5"), "3.5", "4", "1"},
+                     {std::string(), "", "error 13", "error 13"},
+                     {std::string("1e10"), "1e10", "error 6", "error 6"}};
   for (const auto& c : cases) {
     std::string text;
     const std::string failed = Outcome([&] { return static_cast<int>((text = ToText(c.Stored)).size()); });
