@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 #include <sys/wait.h>
-#include <unistd.h>
 
 #include <cerrno>
 #include <chrono>
@@ -9,18 +8,19 @@
 #include "adapters/linux/CommandLine.h"
 #include "adapters/linux/LinuxLauncher.h"
 #include "adapters/linux/LinuxSingleInstance.h"
-#include "platform/RuntimeError.h"
+#include "support/ChildProcess.h"
+#include "support/ErrorOf.h"
 #include "support/TempFolder.h"
 
 namespace corvane {
 namespace {
 
+namespace fs = std::filesystem;
 using Words = std::vector<std::string>;
+using test::ErrorOf;
 
 TEST(CommandLineTest, QuotesAndBackslashesFollowTheRulesOfWindows) {
   const std::pair<std::string, Words> cases[] = {
-      {"", {}},
-      {"  \t ", {}},
       {R"(browser "http://a b/" c)", {"browser", "http://a b/", "c"}},
       {R"("/opt/My Browser/run" %1)", {"/opt/My Browser/run", "%1"}},
       {R"("C:\Program Files\"x y)", {R"(C:\Program Files\x)", "y"}},
@@ -32,84 +32,43 @@ TEST(CommandLineTest, QuotesAndBackslashesFollowTheRulesOfWindows) {
   for (const auto& [line, words] : cases) EXPECT_EQ(SplitCommandLine(line), words) << line;
 }
 
-// A program that writes the arguments it got, one in a line, and gives them their final name when all are there.
 class LauncherTest : public testing::Test {
  protected:
-  void SetUp() override {
-    Folder.Write("tell",
-                 "#!/bin/sh\ncd \"$(dirname \"$0\")\"\nfor a in \"$@\"; do echo \"$a\"; done > new\nmv new told\n");
-    std::filesystem::permissions(Folder.Path() / "tell", std::filesystem::perms::owner_all);
-  }
-
-  std::string Told() const {
-    for (int i = 0; i < 500 && !std::filesystem::exists(Folder.Path() / "told"); ++i)
-      std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    return Folder.Read("told");
-  }
-
-  static int ErrorOf(const std::string& commandLine) {
-    try {
-      LinuxLauncher().Run(commandLine);
-    } catch (const RuntimeError& error) {
-      return error.Number;
-    }
-    return 0;
-  }
-
   test::TempFolder Folder;
+  LinuxLauncher Launcher;
 };
 
 TEST_F(LauncherTest, ArgumentsArriveWholeAndUnread) {
-  const std::string program = (Folder.Path() / "tell").string();
-  LinuxLauncher().Run('"' + program + R"*(" "http://x/?a=1&b=$(touch oops)" `id` a;b "c ""d""")*");
-  EXPECT_EQ(Told(), "http://x/?a=1&b=$(touch oops)\n`id`\na;b\nc \"d\"\n");
+  // The program writes what it got, one argument in a line, and names the file when all are there.
+  const fs::path program = Folder.Write(
+      "tell", "#!/bin/sh\ncd \"$(dirname \"$0\")\"\nfor a in \"$@\"; do echo \"$a\"; done > new\nmv new told\n");
+  EXPECT_EQ(ErrorOf([&] { Launcher.Run(program.string()); }), errors::PermissionDenied);
+  fs::permissions(program, fs::perms::owner_all);
+  Launcher.Run('"' + program.string() + R"*(" "http://x/?a=1&b=$(touch oops)" `id` a;b "c ""d""")*");
+  for (int i = 0; i < 500 && !fs::exists(Folder.Path() / "told"); ++i)
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+  EXPECT_EQ(Folder.Read("told"), "http://x/?a=1&b=$(touch oops)\n`id`\na;b\nc \"d\"\n");
   // No child is left to wait for, running or dead.
   EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1);
   EXPECT_EQ(errno, ECHILD);
+  for (const char* line : {"corvane-no-such-program x", "/corvane-no-such-folder/x", " \t ", "\"\" x"})
+    EXPECT_EQ(ErrorOf([&] { Launcher.Run(line); }), errors::FileNotFound) << line;
 }
 
-TEST_F(LauncherTest, WhatCannotBeRunIsAnError) {
-  const std::string plain = Folder.Write("plain", "text").string();
-  EXPECT_EQ(ErrorOf("corvane-no-such-program x"), errors::FileNotFound);
-  EXPECT_EQ(ErrorOf((Folder.Path() / "none/at all").string()), errors::FileNotFound);
-  EXPECT_EQ(ErrorOf(" "), errors::FileNotFound);
-  EXPECT_EQ(ErrorOf("\"\" x"), errors::FileNotFound);
-  EXPECT_EQ(ErrorOf(plain), errors::PermissionDenied);
-}
-
-TEST_F(LauncherTest, TheLockOfTheInstanceEndsWithItsProcess) {
-  int toChild[2], toParent[2];
-  ASSERT_EQ(::pipe(toChild), 0);
-  ASSERT_EQ(::pipe(toParent), 0);
-  const pid_t child = ::fork();
-  ASSERT_GE(child, 0);
-  char word = 0;
-  if (child == 0) {
-    ::close(toChild[1]);
-    LinuxSingleInstance other(Folder.Path());
-    word = other.Acquire() ? 'y' : 'n';
-    if (::write(toParent[1], &word, 1) == 1) (void)!::read(toChild[0], &word, 1);
-    ::_exit(0);
-  }
-  ASSERT_EQ(::read(toParent[0], &word, 1), 1);
-  EXPECT_EQ(word, 'y');
+TEST_F(LauncherTest, TheLockOfTheInstanceEndsWithItsProcessAndIsNotInherited) {
+  test::ChildProcess other([&](test::ChildProcess& self) {
+    LinuxSingleInstance own(Folder.Path());
+    self.Tell(own.Acquire());
+    Launcher.Run("sleep 2");
+    self.Tell(0);
+    self.Wait();
+  });
+  EXPECT_EQ(other.Hear() + other.Hear(), 1);
   LinuxSingleInstance mine(Folder.Path());
   EXPECT_FALSE(mine.Acquire());
-  ::close(toChild[1]);
-  ::waitpid(child, nullptr, 0);
+  other.Kill();
   EXPECT_TRUE(mine.Acquire());
-  EXPECT_TRUE(mine.Acquire());
-  EXPECT_FALSE(LinuxSingleInstance(Folder.Path()).Acquire());
-  EXPECT_THROW(LinuxSingleInstance(Folder.Path() / "none").Acquire(), RuntimeError);
-}
-
-TEST_F(LauncherTest, AStartedProgramDoesNotInheritTheInstanceLock) {
-  {
-    LinuxSingleInstance mine(Folder.Path());
-    ASSERT_TRUE(mine.Acquire());
-    LinuxLauncher().Run("sleep 2");
-  }
-  EXPECT_TRUE(LinuxSingleInstance(Folder.Path()).Acquire());
+  EXPECT_EQ(ErrorOf([&] { LinuxSingleInstance(Folder.Path() / "none").Acquire(); }), errors::PathNotFound);
 }
 
 }  // namespace
