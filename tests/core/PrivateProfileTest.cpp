@@ -21,10 +21,9 @@ class PrivateProfileTest : public testing::Test {
 };
 
 TEST_F(PrivateProfileTest, ReadsValuesOfUpTo509Characters) {
-  const std::pair<std::size_t, bool> cases[] = {{0, false},   {1, true},    {509, true},
-                                                {510, false}, {511, false}, {600, false}};
-  for (const auto& [length, isRead] : cases) {
+  for (const std::size_t length : {0, 1, 509, 510, 600}) {
     const std::string text(length, 'x');
+    const bool isRead = length > 0 && length < 510;
     EXPECT_TRUE(Profile.WriteString("Alarms", "AlarmInfo1", text));
     std::string value = "before";
     EXPECT_EQ(Profile.GetStringValue("Alarms", "AlarmInfo1", value), isRead) << length;
@@ -54,12 +53,9 @@ TEST_F(PrivateProfileTest, CountsTheEqualsSignsWithinTheBuffer) {
 }
 
 TEST_F(PrivateProfileTest, CreatingTheFileEmptiesIt) {
-  EXPECT_TRUE(Profile.CreateINIFile());
-  EXPECT_TRUE(std::filesystem::exists(Folder.Path() / "a.ini"));
   EXPECT_TRUE(Profile.WriteString("A", "k", "1"));
   EXPECT_TRUE(Profile.CreateINIFile());
   EXPECT_EQ(Folder.Read("a.ini"), "");
-  EXPECT_EQ(Profile.GetSectionSize("A"), 0);
   Profile.FileName = "no/folder/a.ini";
   EXPECT_FALSE(Profile.CreateINIFile());
 }
