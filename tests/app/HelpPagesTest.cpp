@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "app/installation/TextFile.h"
 #include "core/console/frmBegin.h"
 #include "core/console/frmCVMain.h"
 #include "logs/frmLogEdit.h"
@@ -9,12 +10,6 @@ namespace corvane::test {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string ReadPage(const fs::path& file) {
-  std::ostringstream bytes;
-  bytes << std::ifstream(file, std::ios::binary).rdbuf();
-  return bytes.str();
-}
 
 TEST(HelpPagesTest, EveryScreenHasItsPage) {
   TestConsole console;
@@ -31,7 +26,7 @@ TEST(HelpPagesTest, EveryLinkLeadsToAFileOfTheFolder) {
   const fs::path help = console.Folder() / "help";
   EXPECT_TRUE(fs::exists(help / "index.html"));
   for (const auto& page : fs::directory_iterator(help)) {
-    const std::string text = ReadPage(page);
+    const std::string text = ReadTextFile(page);
     for (const std::string attribute : {"href=\"", "src=\""})
       for (std::size_t at = text.find(attribute); at != text.npos; at = text.find(attribute, at)) {
         at += attribute.size();
