@@ -42,8 +42,7 @@ TEST_F(PrivateProfileTest, AMissingNumberLeavesWhatCameIn) {
 
 TEST_F(PrivateProfileTest, CountsTheEqualsSignsWithinTheBuffer) {
   EXPECT_EQ(Profile.GetSectionSize("Alarms"), 0);
-  Profile.WriteString("Alarms", "AlarmInfo1", "a");
-  Profile.WriteString("Alarms", "AlarmInfo2", "a=b");
+  Folder.Write("a.ini", "[Alarms]\r\nAlarmInfo1=a\r\nAlarmInfo2=a=b\r\n");
   EXPECT_EQ(Profile.GetSectionSize("Alarms"), 3);
   // 600 lines of 100 characters, each with its zero: 297 signs lie in the first 29998 characters.
   std::string text = "[Alarms]\r\n";
