@@ -77,8 +77,11 @@ TEST_F(CustomDomains, ListTheComputersMappedToThem) {
                                                  {"CUSTOM: STALE", {}}};
   for (const auto& [domain, computers] : cases) EXPECT_EQ(computers, ComputersOf(domain)) << domain;
   // A garbled count ends with the file, not after hours.
-  Write("[General]\r\nNumComputers=2000000000\r\n[Computers]\r\nComputer1=A|BRANCH\r\n");
-  EXPECT_EQ(Names{"A"}, ComputersOf("BRANCH"));
+  const std::pair<const char*, Names> counts[] = {{"-1", {}}, {"none", {}}, {"0", {}}, {"2000000000", {"A"}}};
+  for (const auto& [count, computers] : counts) {
+    Write(std::string("[General]\r\nNumComputers=") + count + "\r\n[Computers]\r\nComputer1=A|BRANCH\r\n");
+    EXPECT_EQ(computers, ComputersOf("BRANCH")) << count;
+  }
   EXPECT_TRUE(IsCustomDomain("CUSTOM: BRANCH"));
   EXPECT_FALSE(IsCustomDomain("custom: branch"));
 }

@@ -63,7 +63,8 @@ class ToldDirectory : public DirectoryApi {
     return Raised(flags == PrimaryDomain ? "ALPHA" : Trusts.at(static_cast<std::size_t>(index - 1)));
   }
   int DsGetNumberOfTrusts(const std::string&, int) override {
-    return Raised(Controller), static_cast<int>(Trusts.size());
+    Raised(Controller);
+    return static_cast<int>(Trusts.size());
   }
 
   std::string Controller;
