@@ -57,18 +57,26 @@ TEST_F(ConfigDatabase, MakesDataFilesButNeverReplacesOne) {
   EXPECT_FALSE(CreateAccessDatabase(Main, "C:\\Corvane\\events.db"));
 }
 
+class UndeletableFiles : public LinuxFiles {
+ public:
+  using LinuxFiles::LinuxFiles;
+  void Delete(const std::string&) override { throw RuntimeError(errors::PermissionDenied, "Permission denied"); }
+};
+
 // The file of statements that brings an older database up to date.
 class ConfigUpdate : public ConfigDatabase {
  protected:
   const std::string Class3 = "INSERT INTO OSTypes VALUES (3, 'Newest')";
 
   // What is in the classes afterwards, whether the file stayed, and whether work done later outlives the connection.
-  std::string Outcome(const std::optional<std::string>& file, bool isOld = true) {
+  static std::string Outcome(const std::optional<std::string>& file, bool isOld = true, bool isDeletable = true) {
     TestConsole console;
+    UndeletableFiles undeletable{HostPaths(console.Folder())};
+    Platform ports = Replace(console.Ports, {.Files = isDeletable ? nullptr : &undeletable});
+    modMain main(ports);
     if (isOld) console.Rows("DELETE FROM OSTypes WHERE [Index] = 3");
     const auto place = console.Folder() / "configupdate01.dat";
     if (file) std::ofstream(place, std::ios::binary) << *file;
-    modMain& main = console.App.State();
     main.InitGlobals();
     OpenConfigDatabase(main);
     ApplyConfigUpdate(main);
@@ -97,6 +105,7 @@ TEST_F(ConfigUpdate, IsAppliedWholeOrNotAtAll) {
   };
   for (const auto& c : cases)
     for (const auto& file : c.Files) EXPECT_EQ(c.Outcome, Outcome(file)) << file.value_or("no file");
+  EXPECT_EQ("Newest\nstays kept", Outcome(Class3, true, false)) << "a file that cannot be deleted";
 }
 
 TEST_F(ConfigUpdate, LeavesTheFileUnreadWhenTheClassIsThereOrCannotBeLookedFor) {
@@ -109,31 +118,11 @@ TEST_F(ConfigUpdate, LeavesTheFileUnreadWhenTheClassIsThereOrCannotBeLookedFor) 
   EXPECT_EQ(Lines{"SELECT * FROM OSTypes WHERE Index=3"}, Console.Data.Statements);
 }
 
-class UndeletableFiles : public LinuxFiles {
- public:
-  using LinuxFiles::LinuxFiles;
-  void Delete(const std::string&) override { throw RuntimeError(errors::PermissionDenied, "Permission denied"); }
-};
-
-TEST_F(ConfigUpdate, IsCommittedOnceThoughItsFileCannotBeDeleted) {
-  UndeletableFiles files{HostPaths(Console.Folder())};
-  Platform ports = Replace(Console.Ports, {.Files = &files});
-  modMain main(ports);
-  main.InitGlobals();
-  Console.Rows("DELETE FROM OSTypes WHERE [Index] = 3");
-  std::ofstream(Console.Folder() / "configupdate01.dat") << Class3;
-  OpenConfigDatabase(main);
-  ApplyConfigUpdate(main);
-  EXPECT_EQ("Newest\n", Console.Rows("SELECT OSName FROM OSTypes WHERE [Index] = 3"));
-  Console.Data.Forget();
-  ApplyConfigUpdate(main);
-  EXPECT_EQ(1U, Console.Data.Statements.size());
-}
-
 TEST_F(ConfigDatabase, StampsEachFieldFromAReadingOfItsOwn) {
   int reading = 0;
   Console.System.Clock = [&] {
-    return ++reading, MakeDateTime(2000 + reading, reading, reading, reading, reading, reading);
+    ++reading;
+    return MakeDateTime(2000 + reading, reading, reading, reading, reading, reading);
   };
   StampLastDBUpdate(Main);
   EXPECT_EQ("2001-2-3-4-5-6", Console.Setting("LastDBUpdate"));
