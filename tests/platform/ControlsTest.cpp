@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "support/ErrorOf.h"
 #include "support/ScriptedHost.h"
 
@@ -137,7 +139,10 @@ class LivingForm : public ui::Form {
   ui::CommandButton cmdOK{*this, "cmdOK"};
 
  protected:
-  bool Form_Load() override { return Life += "load ", OnLoad(); }
+  bool Form_Load() override {
+    Life += "load ";
+    return OnLoad();
+  }
   void Form_Unload() override { Life += "unload "; }
 };
 
