@@ -47,6 +47,7 @@ TEST(CatalogueFile, TellsWhichLineBreaksARule) {
   } cases[] = {
       {"", "c.txt:0: the catalogue holds no alarm"},
       {"colour red\n", "c.txt:1: 'colour' is no keyword"},
+      {"category\n", "c.txt:1: 'category' has no value"},
       {"log 1 | System\n", "c.txt:1: 'log' cannot stand here"},
       {"alarm A\n", "c.txt:1: the alarm has no category above it"},
       {"category A\n\ncategory B\n", "c.txt:1: the category stands in no log"},
@@ -59,6 +60,8 @@ TEST(CatalogueFile, TellsWhichLineBreaksARule) {
       {alarm + "match 3 | Error | Disk | 7\n", "c.txt:6: the category does not stand under OS class 3"},
       {alarm + "alarm B\ncomment c\nmatch 2 | Error | DISK | 7\n",
        "c.txt:8: another alarm of OS class 2 has the same criteria"},
+      {alarm + "category disks\n", "c.txt:6: 'disks' is used for the second time"},
+      {alarm + "alarm B\nmatch 2 | Error | Disk | 8\n", "c.txt:7: the alarm has no comment above its first match"},
       {alarm + "alarm B\ncomment c\n", "c.txt:6: the alarm matches nothing"},
       {alarm + "alarm " + longName + "\n", "c.txt:6: the text has 256 characters, 255 are allowed"},
       {alarm + "alarm B\ncomment it's\n", "c.txt:7: the character ' is not allowed in 'it's'"},

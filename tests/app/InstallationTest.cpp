@@ -219,6 +219,10 @@ TEST_F(InstallationTest, AFailureLeavesNothingBehind) {
   fs::copy_file(shipped / "schema.sql", data / "schema.sql", fs::copy_options::overwrite_existing);
   fs::remove_all(data / "help");
   EXPECT_EQ(failure(), (data / "help").string() + " cannot be copied: No such file or directory");
+  fs::remove(data / "platform.ini");
+  EXPECT_EQ(failure(), (data / "platform.ini").string() + " cannot be read: No such file or directory");
+  EXPECT_EQ(LayOut("/proc/corvane/inner", Installation::Kind::Lab),
+            "/proc/corvane/inner cannot be laid out: No such file or directory");
   fs::remove_all(data);
   EXPECT_TRUE(fs::is_empty(place_.Path()));
 }
