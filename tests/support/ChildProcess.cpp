@@ -2,6 +2,7 @@
 
 #include <grp.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -53,12 +54,6 @@ void ChildProcess::BecomeNobody() {
   if (::geteuid() == 0) Require(::setgroups(0, nullptr) == 0 && ::setgid(nobody) == 0 && ::setuid(nobody) == 0);
 }
 
-void ChildProcess::FillDisk(unsigned long bytes) {
-  std::signal(SIGXFSZ, SIG_IGN);
-  const rlimit limit{bytes, bytes};
-  Require(::setrlimit(RLIMIT_FSIZE, &limit) == 0);
-}
-
 int ChildProcess::Hear() const {
   int number = -1;
   return ::read(toTest_[0], &number, sizeof number) == sizeof number ? number : -1;
@@ -73,6 +68,25 @@ void ChildProcess::Kill() {
 
 int InChild(const std::function<int()>& work) {
   return ChildProcess([&](ChildProcess& self) { self.Tell(work()); }).Hear();
+}
+
+int AsNobody(const std::filesystem::path& file, mode_t fileMode, mode_t folderMode, const std::function<int()>& work) {
+  const auto setModes = [&](mode_t ofFile, mode_t ofFolder) {
+    Require(::chmod(file.c_str(), ofFile) == 0 && ::chmod(file.parent_path().c_str(), ofFolder) == 0);
+  };
+  setModes(fileMode, folderMode);
+  const int result = InChild([&] { return ChildProcess::BecomeNobody(), work(); });
+  setModes(0600, 0700);
+  return result;
+}
+
+int OnFullDisk(unsigned long bytes, const std::function<int()>& work) {
+  return InChild([&] {
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit{bytes, bytes};
+    Require(::setrlimit(RLIMIT_FSIZE, &limit) == 0);
+    return work();
+  });
 }
 
 }  // namespace corvane::test

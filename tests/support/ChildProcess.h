@@ -2,6 +2,7 @@
 
 #include <sys/types.h>
 
+#include <filesystem>
 #include <functional>
 
 namespace corvane::test {
@@ -19,9 +20,8 @@ class ChildProcess {
   /// In the process: says a number to the test; waits until the test lets it go on.
   void Tell(int number) const;
   void Wait() const;
-  /// In the process: goes on as a user without rights to the files of others; lets no file grow beyond the size.
+  /// In the process: goes on as a user without rights to the files of others.
   static void BecomeNobody();
-  static void FillDisk(unsigned long bytes);
 
   /// In the test: the next number that the process tells, -1 when it died; lets it go on; kills it.
   int Hear() const;
@@ -35,5 +35,11 @@ class ChildProcess {
 
 /// Does the work in a process of its own and gives its result, or the number of the error that it raised.
 int InChild(const std::function<int()>& work);
+
+/// The same as a user without rights to the files of others, while the file and its folder have these modes.
+int AsNobody(const std::filesystem::path& file, mode_t fileMode, mode_t folderMode, const std::function<int()>& work);
+
+/// The same where no file can grow beyond the size, as on a full disk.
+int OnFullDisk(unsigned long bytes, const std::function<int()>& work);
 
 }  // namespace corvane::test
