@@ -55,9 +55,10 @@ class NameTable {
   auto end() const { return order_.end(); }
 
   T* Find(std::string_view name) const {
-    const std::uint32_t hash = HashOf(name);
-    for (std::size_t at = hash; const std::uint32_t place = SlotAt(at).Place; ++at)
-      if (SlotAt(at).Hash == hash && NameEqual()(order_[place - 1]->Name, name)) return order_[place - 1].get();
+    const std::uint32_t hash = HashOf(name), mask = Mask();
+    for (std::size_t at = hash; const std::uint32_t place = slots_[at & mask] & mask; ++at)
+      if (((slots_[at & mask] ^ hash) & ~mask) == 0 && NameEqual()(order_[place - 1]->Name, name))
+        return order_[place - 1].get();
     return nullptr;
   }
 
@@ -66,7 +67,7 @@ class NameTable {
     if (T* found = Find(name)) return *found;
     T& made = *order_.emplace_back(std::make_unique<T>());
     made.Name = name;
-    if (order_.size() * 2 > slots_.size())
+    if (order_.size() * 4 > slots_.size() * 3)
       Index(slots_.size() * 2);
     else
       AddSlot(order_.size());
@@ -82,32 +83,26 @@ class NameTable {
   }
 
  private:
-  // Where a thing stands in the order, counted from 1, or 0 in an empty slot. Slots lie in one row, and a name is
-  // looked for from the slot of its hash up to the next empty one: in a large table that touches far less memory than
-  // chains.
-  struct Slot {
-    std::uint32_t Hash = 0;
-    std::uint32_t Place = 0;
-  };
-
   static std::uint32_t HashOf(std::string_view name) { return static_cast<std::uint32_t>(NameHash()(name)); }
-  // The number of slots is a power of two, and at least half of them are empty.
-  const Slot& SlotAt(std::size_t at) const { return slots_[at & (slots_.size() - 1)]; }
+  std::uint32_t Mask() const { return static_cast<std::uint32_t>(slots_.size() - 1); }
 
   void AddSlot(std::size_t place) {
-    const std::uint32_t hash = HashOf(order_[place - 1]->Name);
+    const std::uint32_t hash = HashOf(order_[place - 1]->Name), mask = Mask();
     std::size_t at = hash;
-    while (SlotAt(at).Place != 0) ++at;
-    slots_[at & (slots_.size() - 1)] = {hash, static_cast<std::uint32_t>(place)};
+    while ((slots_[at & mask] & mask) != 0) ++at;
+    slots_[at & mask] = (hash & ~mask) | static_cast<std::uint32_t>(place);
   }
 
   void Index(std::size_t size) {
-    slots_.assign(size, {});
+    slots_.assign(size, 0);
     for (std::size_t place = 1; place <= order_.size(); ++place) AddSlot(place);
   }
 
   std::vector<std::unique_ptr<T>> order_;
-  std::vector<Slot> slots_ = std::vector<Slot>(2);
+  // A power of two in number, one quarter of them empty at least. A name is looked for from the slot of its hash's low
+  // bits up to the next empty one. A slot holds the high bits of the hash and, in the low ones, the place in the order
+  // counted from 1: four bytes for each name, since what costs time in a large table is memory that is not at hand.
+  std::vector<std::uint32_t> slots_ = {0, 0};
 };
 
 }  // namespace corvane::settings

@@ -49,7 +49,7 @@ class RegistryFile {
   std::unique_ptr<RegistryKey> top_ = std::make_unique<RegistryKey>();
   std::uint64_t revision_ = 0;
   long status_ = 0;
-  std::chrono::steady_clock::time_point nextLook_;
+  std::chrono::steady_clock::time_point lastCall_, nextLook_;
 };
 
 }  // namespace corvane::settings
