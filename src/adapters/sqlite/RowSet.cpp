@@ -33,33 +33,42 @@ void RowSet::Describe(sqlite3_stmt* statement, bool withRowId) {
 }
 
 void RowSet::Append(sqlite3_stmt* statement) {
-  const int count = static_cast<int>(columns_.size());
-  for (int i = 0; i < count; ++i) cells_.push_back(CellOf(statement, i));
-  if (withRowId_) rowIds_.push_back(sqlite3_column_int64(statement, count));
+  static const Cell none;
+  for (std::size_t i = 0; i < columns_.size(); ++i)
+    cells_.push_back(CellOf(statement, i, rowCount_ > 0 ? cells_[cells_.size() - columns_.size()] : none));
+  if (withRowId_) rowIds_.push_back(sqlite3_column_int64(statement, static_cast<int>(columns_.size())));
+  ++rowCount_;
 }
 
 void RowSet::Replace(std::size_t row, sqlite3_stmt* statement) {
-  for (std::size_t i = 0; i < columns_.size(); ++i)
-    cells_[row * columns_.size() + i] = CellOf(statement, static_cast<int>(i));
+  for (std::size_t i = 0; i < columns_.size(); ++i) {
+    Cell& cell = cells_[row * columns_.size() + i];
+    cell = CellOf(statement, i, cell);
+  }
 }
 
-RowSet::Cell RowSet::CellOf(sqlite3_stmt* statement, int column) {
-  switch (sqlite3_column_type(statement, column)) {
+// A value is fetched once and then asked for all it holds, which a connection without a mutex allows. A text that
+// repeats another cell's, as sorted rows often do, is kept once.
+RowSet::Cell RowSet::CellOf(sqlite3_stmt* statement, std::size_t column, const Cell& other) {
+  sqlite3_value* value = sqlite3_column_value(statement, static_cast<int>(column));
+  switch (sqlite3_value_type(value)) {
     case SQLITE_NULL:
       return {};
     case SQLITE_INTEGER: {
-      const bool flag = columns_[static_cast<std::size_t>(column)].Type.Type == FieldType::Kind::Boolean;
-      return {static_cast<std::uint64_t>(sqlite3_column_int64(statement, column)), 0,
+      const bool flag = columns_[column].Type.Type == FieldType::Kind::Boolean;
+      return {static_cast<std::uint64_t>(sqlite3_value_int64(value)), 0,
               flag ? Cell::Kind::Boolean : Cell::Kind::Number};
     }
     case SQLITE_FLOAT:
-      return {std::bit_cast<std::uint64_t>(sqlite3_column_double(statement, column)), 0, Cell::Kind::Real};
+      return {std::bit_cast<std::uint64_t>(sqlite3_value_double(value)), 0, Cell::Kind::Real};
     default: {
-      const void* text = sqlite3_column_text(statement, column);
-      const auto length = static_cast<std::uint32_t>(sqlite3_column_bytes(statement, column));
+      const void* bytes = sqlite3_value_text(value);
+      const std::string_view text(static_cast<const char*>(bytes),
+                                  static_cast<std::size_t>(sqlite3_value_bytes(value)));
+      if (other.Type == Cell::Kind::Text && TextOf(other) == text) return other;
       const std::size_t start = texts_.size();
-      if (length != 0) texts_.append(static_cast<const char*>(text), length);
-      return {start, length, Cell::Kind::Text};
+      texts_.append(text);
+      return {start, static_cast<std::uint32_t>(text.size()), Cell::Kind::Text};
     }
   }
 }
@@ -91,9 +100,9 @@ void RowSet::Read(std::size_t row, std::size_t column, Value& value) const {
       break;
     case Cell::Kind::Text:
       if (auto* text = std::get_if<std::string>(&value))
-        text->assign(texts_, cell.Bits, cell.Length);
+        *text = TextOf(cell);
       else
-        value = texts_.substr(cell.Bits, cell.Length);
+        value = std::string(TextOf(cell));
       break;
   }
 }

@@ -45,6 +45,7 @@ void SqliteRecordset::FetchRows(SqliteStatement& statement, bool withRowId) {
   rows_ = std::move(rows);
   row_ = 0;
   change_.reset();
+  known_.clear();
   cells_.resize(rows_.Columns().size());
   cellRows_.assign(rows_.Columns().size(), NoRow);
   changeable_ = withRowId;
@@ -92,17 +93,21 @@ const Value& SqliteRecordset::Field(std::string_view name) const {
 }
 
 const Value& SqliteRecordset::Cell(std::size_t column) const {
-  if (cellRows_[column] != row_) rows_.Read(row_, column, cells_[column]);
-  cellRows_[column] = row_;
+  std::size_t& from = cellRows_[column];
+  if (from != row_ && (from == NoRow || !rows_.HoldSame(from, row_, column))) rows_.Read(row_, column, cells_[column]);
+  from = row_;
   return cells_[column];
 }
 
 std::size_t SqliteRecordset::ColumnOf(std::string_view name) const {
   RequireOpen();
+  for (const auto& [known, column] : known_)
+    if (known == name) return column;
   const auto column = rows_.Find(name);
   if (!column)
     throw StoreError(errors::DataNoItem,
                      "The field '" + std::string(name) + "' is not in the rows, or more than once.");
+  known_.emplace_back(name, *column);
   return *column;
 }
 
@@ -164,14 +169,9 @@ void SqliteRecordset::FetchAgain(SqliteDatabase& database, std::int64_t rowId) {
 
 const std::string& SqliteRecordset::Table() const { return rows_.Columns().front().Table; }
 
-void SqliteRecordset::RequireOpen() const {
-  if (!open_) throw StoreError(errors::DataClosed, "The recordset is closed.");
-}
+void SqliteRecordset::RaiseClosed() { throw StoreError(errors::DataClosed, "The recordset is closed."); }
 
-void SqliteRecordset::RequireRow() const {
-  RequireOpen();
-  if (row_ >= rows_.Rows()) throw StoreError(errors::DataNoRow, "There is no current row.");
-}
+void SqliteRecordset::RaiseNoRow() { throw StoreError(errors::DataNoRow, "There is no current row."); }
 
 void SqliteRecordset::RequireChangeable() const {
   RequireOpen();

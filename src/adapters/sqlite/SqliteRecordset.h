@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "adapters/sqlite/RowSet.h"
@@ -43,8 +44,15 @@ class SqliteRecordset final : public Recordset {
   };
 
   void FetchRows(SqliteStatement& statement, bool withRowId);
-  void RequireOpen() const;
-  void RequireRow() const;
+  [[noreturn]] static void RaiseClosed();
+  [[noreturn]] static void RaiseNoRow();
+  void RequireOpen() const {
+    if (!open_) RaiseClosed();
+  }
+  void RequireRow() const {
+    RequireOpen();
+    if (row_ >= rows_.Rows()) RaiseNoRow();
+  }
   void RequireChangeable() const;
   std::size_t ColumnOf(std::string_view name) const;
   const Value& Cell(std::size_t column) const;
@@ -58,6 +66,8 @@ class SqliteRecordset final : public Recordset {
   RowSet rows_;
   std::size_t row_ = 0;
   std::optional<Change> change_;
+  // The columns of the names that were asked for, as they were spelled: loops ask for the same few in every row.
+  mutable std::vector<std::pair<std::string, std::size_t>> known_;
   // The cells of the current row that were asked for, and the row that each was taken from.
   mutable std::vector<Value> cells_;
   mutable std::vector<std::size_t> cellRows_;
