@@ -56,6 +56,14 @@ bool IsTiny(std::string_view number) {
   return places + exponent < 0;
 }
 
+// Most numbers are a few plain digits, which need no floating point.
+std::optional<std::int32_t> FewDigits(std::string_view text) {
+  if (text.empty() || text.size() > 9 || DigitsFrom(text, 0) != text.size()) return std::nullopt;
+  std::int32_t number = 0;
+  for (const char c : text) number = number * 10 + (c - '0');
+  return number;
+}
+
 double ToDouble(std::string_view number) {
   if (!number.empty() && number.front() == '+') number.remove_prefix(1);
   double value = 0;
@@ -98,6 +106,7 @@ std::int32_t RoundToInt32(double number) {
 }
 
 std::int32_t TextToInt32(std::string_view text) {
+  if (const auto few = FewDigits(text)) return *few;
   const auto number = ParseNumber(text);
   if (!number) throw RuntimeError(errors::TypeMismatch, "Type mismatch");
   return RoundToInt32(*number);
@@ -140,9 +149,15 @@ int CompareText(std::string_view a, std::string_view b) {
 std::string Trim(std::string_view text) { return std::string(TrimView(text)); }
 
 std::string PadZero(long long number, int width) {
-  std::string digits = std::to_string(number < 0 ? -number : number);
-  if (static_cast<int>(digits.size()) < width) digits.insert(0, static_cast<std::size_t>(width) - digits.size(), '0');
-  return number < 0 ? "-" + digits : digits;
+  const std::size_t sign = number < 0 ? 1 : 0;
+  auto rest = static_cast<unsigned long long>(number);
+  if (sign != 0) rest = 0 - rest;
+  int digits = 1;
+  for (auto more = rest / 10; more != 0; more /= 10) ++digits;
+  std::string padded(sign + static_cast<std::size_t>(std::max(digits, width)), '0');
+  for (auto place = padded.rbegin(); rest != 0; rest /= 10, ++place) *place = static_cast<char>('0' + rest % 10);
+  if (sign != 0) padded.front() = '-';
+  return padded;
 }
 
 }  // namespace corvane

@@ -37,7 +37,10 @@ std::string ToText(const Value& value) {
 std::int32_t ToNumber(const Value& value) {
   return std::visit(
       Overloaded{[](std::monostate) -> std::int32_t { InvalidNull(); },
-                 [](std::int64_t number) { return RoundToInt32(static_cast<double>(number)); },
+                 [](std::int64_t number) {
+                   const auto narrow = static_cast<std::int32_t>(number);
+                   return narrow == number ? narrow : RoundToInt32(static_cast<double>(number));
+                 },
                  [](double number) { return RoundToInt32(number); }, [](bool flag) { return flag ? -1 : 0; },
                  [](const std::string& text) { return TextToInt32(text); }},
       value);
