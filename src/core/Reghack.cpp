@@ -102,12 +102,18 @@ std::string Reghack::GetKeyValue(std::string_view key, std::string_view name) co
 }
 
 long Reghack::QueryValueEx(RegistryHandle handle, std::string_view name, std::string& value) const {
+  // Takes the memory of the text that comes in along: lists read many values into one.
+  RegistryValue stored{0, std::move(value)};
   value.clear();
-  RegistryValue stored;
   if (const long status = store_.QueryValue(handle, name, stored)) return status;
   if (!IsString(stored.Type) && stored.Type != registry::Number) return UnknownType;
   value = stored.Type == registry::Number ? NumberText(stored.Bytes) : std::move(stored.Bytes);
   return registry::Ok;
+}
+
+RegistryHandle Reghack::OpenKeyToRead(std::string_view key, RegistryHandle root) const {
+  RegistryHandle opened = 0;
+  return store_.OpenKey(root, key, registry::Read, opened) == registry::Ok ? opened : 0;
 }
 
 RegistryHandle Reghack::OpenKey(std::string_view key, RegistryHandle root) const {

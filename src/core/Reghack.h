@@ -44,7 +44,8 @@ class Reghack {
   /// value is empty unless the status is 0.
   long QueryValueEx(RegistryHandle handle, std::string_view name, std::string& value) const;
 
-  /// Opens a key with full access; 0 on failure.
+  /// Opens a key to read several of its values, or with full access; 0 on failure.
+  RegistryHandle OpenKeyToRead(std::string_view key, RegistryHandle root) const;
   RegistryHandle OpenKey(std::string_view key, RegistryHandle root) const;
 
   /// The system's own folder; empty when it does not fit into 144 characters.

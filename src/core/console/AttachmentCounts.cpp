@@ -1,5 +1,8 @@
 #include "core/console/AttachmentCounts.h"
 
+#include <algorithm>
+#include <unordered_map>
+
 #include "core/PassOver.h"
 #include "core/SqlText.h"
 #include "core/modMain.h"
@@ -7,23 +10,21 @@
 namespace corvane {
 namespace {
 
-// Keys meet as the store compares them: the case of ASCII letters alone does not matter.
-std::string Folded(std::string text) {
-  for (char& c : text)
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  return text;
-}
-
-int Find(const std::unordered_map<std::string, int>& counts, const std::string& idName) {
-  const auto found = counts.find(Folded(idName));
-  return found == counts.end() ? 0 : found->second;
-}
-
 template <class Visit>
 void ForEachRow(modMain& main, const std::string& sql, Visit visit) {
   const auto rows = main.Platform.Data.NewRecordset();
-  rows->Open(sql, *main.ConfigConnection, CursorType::Dynamic, LockType::Optimistic);
+  rows->Open(sql, *main.ConfigConnection, CursorType::ForwardOnly, LockType::ReadOnly);
   for (; !rows->Eof(); rows->MoveNext()) visit(*rows);
+}
+
+// How many alarms each bundle holds.
+std::unordered_map<int, int> CountMembers(modMain& main) {
+  std::unordered_map<int, int> members;
+  ForEachRow(main,
+             "SELECT AlarmGroupID, COUNT(*) AS NumRows FROM AlarmsInGroups WHERE AlarmGroupID IS NOT NULL GROUP BY "
+             "AlarmGroupID",
+             [&](Recordset& row) { members[ToNumber(row.Field("AlarmGroupID"))] = ToNumber(row.Field("NumRows")); });
+  return members;
 }
 
 }  // namespace
@@ -31,35 +32,47 @@ void ForEachRow(modMain& main, const std::string& sql, Visit visit) {
 AttachmentCounts::AttachmentCounts(modMain& main) : main_(main) {
   PassOver([&] { alarms_ = CountRows("AlarmsForLogs"); });
   PassOver([&] { notifications_ = CountRows("NotificationsForLogs"); });
-  bundlesRead_ = PassOver([&] { CountBundles(); });
+  PassOver([&] { bundleAlarms_ = CountBundles(); });
 }
 
-AttachmentCounts::Counts AttachmentCounts::CountRows(const char* table) {
-  Counts counts;
-  ForEachRow(
-      main_, std::string("SELECT IDName, COUNT(*) AS NumRows FROM ") + table + " GROUP BY IDName",
-      [&](Recordset& row) { counts[Folded(NullToEmpty(row.Field("IDName")))] += ToNumber(row.Field("NumRows")); });
+// The keys come in order from the index alone; counting them here costs less than having the store group them.
+CountsByLog AttachmentCounts::CountRows(const char* table) {
+  CountsByLog counts;
+  ForEachRow(main_, std::string("SELECT IDName FROM ") + table + " ORDER BY IDName", [&](Recordset& row) {
+    const auto* idName = std::get_if<std::string>(&row.Field("IDName"));
+    if (!idName) return;
+    counts.Begin(*idName);
+    counts.Add(1);
+  });
   return counts;
 }
 
-// A bundle attached twice to one log counts once, as in the query over its ids.
-void AttachmentCounts::CountBundles() {
-  const char* sql =
-      "SELECT Attached.IDName AS IDName, COUNT(*) AS NumRows FROM (SELECT DISTINCT IDName, AlarmGroupID FROM "
-      "AlarmGroupsForLogs) AS Attached, AlarmsInGroups WHERE AlarmsInGroups.AlarmGroupID = Attached.AlarmGroupID GROUP "
-      "BY Attached.IDName";
-  ForEachRow(main_, sql, [&](Recordset& row) {
-    bundleAlarms_[Folded(NullToEmpty(row.Field("IDName")))] += ToNumber(row.Field("NumRows"));
+// A bundle attached twice to one log counts once, as in the query over its ids. The store would join and sort all the
+// members for that.
+CountsByLog AttachmentCounts::CountBundles() {
+  const auto members = CountMembers(main_);
+  CountsByLog counts;
+  std::vector<int> seen;
+  ForEachRow(main_, "SELECT IDName, AlarmGroupID FROM AlarmGroupsForLogs ORDER BY IDName", [&](Recordset& row) {
+    const auto* idName = std::get_if<std::string>(&row.Field("IDName"));
+    const Value& bundle = row.Field("AlarmGroupID");
+    if (!idName || IsNull(bundle)) return;
+    if (counts.Begin(*idName)) seen.clear();
+    const int id = ToNumber(bundle);
+    if (std::find(seen.begin(), seen.end(), id) != seen.end()) return;
+    seen.push_back(id);
+    if (const auto found = members.find(id); found != members.end()) counts.Add(found->second);
   });
+  return counts;
 }
 
-int AttachmentCounts::Alarms(const std::string& idName) const { return Find(alarms_, idName); }
+int AttachmentCounts::Alarms(const std::string& idName) const { return alarms_.Find(idName); }
 
-int AttachmentCounts::Notifications(const std::string& idName) const { return Find(notifications_, idName); }
+int AttachmentCounts::Notifications(const std::string& idName) const { return notifications_.Find(idName); }
 
 std::optional<int> AttachmentCounts::BundleAlarms(const std::string& idName) const {
-  if (!bundlesRead_) return std::nullopt;
-  return Find(bundleAlarms_, idName);
+  if (!bundleAlarms_) return std::nullopt;
+  return bundleAlarms_->Find(idName);
 }
 
 }  // namespace corvane

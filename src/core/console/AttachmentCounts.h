@@ -2,13 +2,14 @@
 
 #include <optional>
 #include <string>
-#include <unordered_map>
+
+#include "core/console/CountsByLog.h"
 
 namespace corvane {
 
 class modMain;
 
-/// How much is attached to each log, read for all logs by one grouped query per table. A table that fails takes its own
+/// How much is attached to each log, read for all logs by one query per table. A table that fails takes its own
 /// count away and no other.
 class AttachmentCounts {
  public:
@@ -21,16 +22,13 @@ class AttachmentCounts {
   std::optional<int> BundleAlarms(const std::string& idName) const;
 
  private:
-  using Counts = std::unordered_map<std::string, int>;
-
-  Counts CountRows(const char* table);
-  void CountBundles();
+  CountsByLog CountRows(const char* table);
+  CountsByLog CountBundles();
 
   modMain& main_;
-  Counts alarms_;
-  Counts notifications_;
-  Counts bundleAlarms_;
-  bool bundlesRead_ = false;
+  CountsByLog alarms_;
+  CountsByLog notifications_;
+  std::optional<CountsByLog> bundleAlarms_;
 };
 
 }  // namespace corvane
