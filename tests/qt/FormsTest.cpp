@@ -40,15 +40,15 @@ class FormsTest : public ::testing::Test {
     Console App;
   };
 
-  static void SetUpTestSuite() { started_ = new Started; }
+  static void SetUpTestSuite() { Running = new Started; }
   static void TearDownTestSuite() {
-    delete started_;
-    started_ = nullptr;
+    delete Running;
+    Running = nullptr;
   }
 
-  static qt::QtHost& Host() { return started_->Host; }
-  static modMain& State() { return started_->App.State(); }
-  static frmCVMain& Main() { return started_->App.MainWindow(); }
+  static qt::QtHost& Host() { return Running->Host; }
+  static modMain& State() { return Running->App.State(); }
+  static frmCVMain& Main() { return Running->App.MainWindow(); }
   static QWidget& Window(const ui::Form& form) { return Host().ViewOf(form)->Window(); }
   static QTreeView& View(const ui::Control& control) {
     return *Window(control.Parent()).findChild<QTreeView*>(QString::fromStdString(std::string(control.Name())));
@@ -59,10 +59,10 @@ class FormsTest : public ::testing::Test {
   static void ForEachPage(ui::Form& form, const std::function<void()>& visit);
 
  private:
-  static Started* started_;
+  static Started* Running;
 };
 
-FormsTest::Started* FormsTest::started_ = nullptr;
+FormsTest::Started* FormsTest::Running = nullptr;
 
 void FormsTest::ForEachForm(const std::function<void(ui::Form&)>& visit) {
   frmBegin begin(State());

@@ -17,9 +17,9 @@ struct Colours {
   QRgb Window, Base, Alternate, Text, Muted, Button, Line, Accent, AccentText, Highlight, HighlightedText, ToolTip;
 };
 
-constexpr Colours LightColours{0xfff3f5f8, 0xffffffff, 0xfff7f9fb, 0xff1d2733, 0xff8a96a3, 0xffffffff,
+constexpr Colours LightColours{0xfff3f5f8, 0xffffffff, 0xfff7f9fb, 0xff1d2733, 0xff6c7885, 0xffffffff,
                                0xffc9d1da, 0xff1f6fb8, 0xffffffff, 0xffd3e6f8, 0xff14304d, 0xff26323f};
-constexpr Colours DarkColours{0xff22282f, 0xff1a1f25, 0xff1f252c, 0xffe3e8ee, 0xff76818e, 0xff2d353e,
+constexpr Colours DarkColours{0xff22282f, 0xff1a1f25, 0xff1f252c, 0xffe3e8ee, 0xff8b96a3, 0xff2d353e,
                               0xff434d59, 0xff4a9be0, 0xff0d1a26, 0xff2d4d6d, 0xfff2f7fc, 0xff39434f};
 
 QPalette MakePalette(const Colours& colours) {

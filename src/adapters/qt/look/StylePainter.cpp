@@ -36,6 +36,9 @@ bool StylePainter::Primitive(QStyle::PrimitiveElement element) {
     case QStyle::PE_FrameTabWidget:
       Frame(LineColour());
       return true;
+    case QStyle::PE_FrameFocusRect:
+      Frame(Mix(option_.palette.highlight().color(), Accent(), 0.6));
+      return true;
     case QStyle::PE_PanelScrollAreaCorner:
       painter_.fillRect(option_.rect, option_.palette.base());
       return true;
