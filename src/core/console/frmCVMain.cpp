@@ -59,7 +59,7 @@ void frmCVMain::SetCaptions() {
   mnuViewRefresh.Shortcut = "F5";
   for (auto* item : {&mnuFileAdd, &mnuHiddenAdd}) item->Picture = "add";
   for (auto* item : {&mnuFileEdit, &mnuHiddenEdit}) item->Picture = "edit";
-  for (auto* item : {&mnuFileEventViewer, &mnuHiddenEventViewer}) item->Picture = "log";
+  for (auto* item : {&mnuFileEventViewer, &mnuHiddenEventViewer}) item->Picture = "eventviewer";
   mnuViewRefresh.Picture = "refresh";
   mnuHelpCVHelpFile.Picture = "help";
   mnuHelpAbout.Picture = "about";
@@ -70,7 +70,7 @@ void frmCVMain::SetToolbar() {
   tbrMain.Buttons = {{"add", "Watch Log", "Watch a New Log", "add"},
                      {"edit", "Edit Log", "Edit the Selected Log", "edit"},
                      separator,
-                     {"eventviewer", "Event Viewer", "Open the Event Viewer on the Selected Computer", "log"},
+                     {"eventviewer", "Event Viewer", "Open the Event Viewer on the Selected Computer", "eventviewer"},
                      separator,
                      {"refresh", "Refresh", "Refresh the List", "refresh"}};
 }
