@@ -1,10 +1,11 @@
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 #include "app/assembly/RunConsole.h"
 #include "core/Settings.h"
 #include "core/console/frmBegin.h"
 #include "platform/RuntimeError.h"
-#include "sqlite/StoreHelpers.h"
+#include "support/ChildProcess.h"
 #include "support/TestConsole.h"
 
 namespace corvane::test {
@@ -133,7 +134,7 @@ TEST(Start, AStoreHeldByAnotherProcessLeavesEmptyListsUntilItIsFree) {
   TestConsole console;
   const auto file = console.Folder() / Installation::DatabaseFile;
   console.Rows("INSERT INTO RegisteredServers VALUES ('MERA1', 'MERIDIAN', 'MERA', 1, 0, 0, 0, 0)");
-  OtherProcess service([&](OtherProcess& self) {
+  ChildProcess service([&](ChildProcess& self) {
     sqlite3* engine = nullptr;
     sqlite3_open(file.c_str(), &engine);
     const char* hold = "PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE; DELETE FROM SyslogDevices";

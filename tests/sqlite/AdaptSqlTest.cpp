@@ -1,21 +1,20 @@
 #include "adapters/sqlite/AdaptSql.h"
 
+#include <gtest/gtest.h>
+
 #include <sstream>
 
-#include "sqlite/StoreHelpers.h"
+#include "support/ErrorOf.h"
 
 namespace corvane {
 namespace {
 
 TEST(AdaptSql, ChangesTheDialectAndNothingElse) {
-  const struct {
-    const char *Sql, *Adapted;
-  } cases[] = {
+  const std::pair<const char*, const char*> cases[] = {
       {"SELECT Index FROM T WHERE T.index=3", "SELECT [Index] FROM T WHERE T.[index]=3"},
       {"SELECT [Index], Indexes FROM [Index #1]", "SELECT [Index], Indexes FROM [Index #1]"},
       {"x = 'Index \"a\" -- ? #1# '''", "x = 'Index \"a\" -- ? #1# '''"},
-      {"x = \"it's \"\"Index\"\"\"", "x = 'it''s \"Index\"'"},
-      {"x = \"\" AND y=''", "x = '' AND y=''"},
+      {"x = \"it's \"\"Index\"\"\" AND y=\"\"", "x = 'it''s \"Index\"' AND y=''"},
       {"VALUES (#11/16/2026 14:05:09#, -1, 1.5e-3, .5)", "VALUES ('2026-11-16 14:05:09', -1, 1.5e-3, .5)"},
       {"VALUES (#2/29/2024#)", "VALUES ('2024-02-29 00:00:00')"},
       {"DELETE FROM T ;\r\n", "DELETE FROM T ;\r\n"},

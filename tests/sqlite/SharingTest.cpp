@@ -1,32 +1,38 @@
-#include <sys/resource.h>
+#include <gtest/gtest.h>
 
 #include <chrono>
-#include <csignal>
 
-#include "sqlite/StoreHelpers.h"
+#include "support/ChildProcess.h"
+#include "support/ErrorOf.h"
+#include "support/TestStore.h"
 
 namespace corvane {
 namespace {
 
+using test::ChildProcess;
 using test::ErrorOf;
-using test::OtherProcess;
-using test::TestStore;
+
+constexpr const char* Add = "INSERT INTO AlarmGroups (Name) VALUES ('x')";
+constexpr const char* Count = "SELECT count(*) FROM AlarmGroups";
 
 // Two processes on one file, with either way of keeping unfinished changes apart.
 class SharingTest : public testing::TestWithParam<const char*> {
  protected:
-  SharingTest() { EXPECT_EQ(test::Ask(store_.File, std::string("PRAGMA journal_mode = ") + GetParam()), GetParam()); }
+  SharingTest() {
+    EXPECT_EQ(store_.Ask(std::string("PRAGMA journal_mode = ") + GetParam()), std::string(GetParam()) + "\n");
+  }
 
-  std::string Count() { return test::Ask(store_.File, "SELECT count(*) FROM AlarmGroups"); }
-  void ExpectSound() { EXPECT_EQ(test::Ask(store_.File, "PRAGMA integrity_check"), "ok"); }
+  static void AddLong(Connection& connection, int number, std::size_t size) {
+    connection.Execute("INSERT INTO CustomNotifications VALUES ('" + std::to_string(number) + "', 'x', '" +
+                       std::string(size, 'x') + "')");
+  }
 
-  TestStore store_;
+  test::TestStore store_;
 };
 
-constexpr const char* Add = "INSERT INTO AlarmGroups (Name) VALUES ('x')";
-
-TEST_P(SharingTest, AWriterHoldsUpWritersButNoReaders) {
-  OtherProcess other([&](OtherProcess& self) {
+TEST_P(SharingTest, AWriterHoldsUpWritersButNoReadersAndRowsInHandHoldUpNobody) {
+  store_.Ask(Add);
+  ChildProcess other([&](ChildProcess& self) {
     const auto connection = store_.Connect();
     connection->BeginTrans();
     connection->Execute(Add);
@@ -44,91 +50,59 @@ TEST_P(SharingTest, AWriterHoldsUpWritersButNoReaders) {
   EXPECT_GE(refused(), std::chrono::milliseconds(450));
   connection->SetLockWait(0);
   EXPECT_LT(refused(), std::chrono::milliseconds(300));
-  EXPECT_EQ(test::Cell(store_, *connection, "SELECT COUNT(*) AS N FROM AlarmGroups", "N"), "0");
+  const auto rows = store_.Open(*connection, "AlarmGroups", LockType::Optimistic);
+  rows->SetField("Name", std::string("changed"));
   // A transaction whose change was refused goes on, and may try again.
   connection->BeginTrans();
-  EXPECT_EQ(ErrorOf([&] { connection->Execute(Add); }), errors::DataLocked);
+  refused();
   other.Release();
   EXPECT_EQ(other.Hear(), 0);
-  connection->Execute(Add);
-  connection->CommitTrans();
-  EXPECT_EQ(Count(), "2");
-}
-
-TEST_P(SharingTest, RowsInHandHoldUpNobody) {
-  OtherProcess other([&](OtherProcess& self) {
-    self.Wait();
-    store_.Connect()->Execute(Add);
-  });
-  const auto connection = store_.Connect();
-  for (int i = 0; i < 3; ++i) connection->Execute(Add);
-  const auto rows = test::Rows(store_, *connection, "AlarmGroups", LockType::Optimistic);
-  other.Release();
-  EXPECT_EQ(other.Hear(), 0);
-  rows->SetField("Name", std::string("changed"));
   rows->Update();
-  EXPECT_EQ(test::Cell(store_, *connection, "SELECT COUNT(*) AS N FROM AlarmGroups", "N"), "4");
+  connection->CommitTrans();
+  EXPECT_EQ(store_.Ask("SELECT Name FROM AlarmGroups"), "changed\nx\n");
 }
 
 TEST_P(SharingTest, AProcessKilledInMidTransactionLeavesNoTrace) {
-  OtherProcess other([&](OtherProcess& self) {
+  ChildProcess other([&](ChildProcess& self) {
     const auto connection = store_.Connect();
     connection->Execute(Add);
     connection->BeginTrans();
     // More than the engine keeps in memory, so that parts of it have reached the disk.
-    for (int i = 0; i < 40; ++i)
-      connection->Execute("INSERT INTO CustomNotifications VALUES ('" + std::to_string(i) + "', 'x', '" +
-                          std::string(200000, 'x') + "')");
+    for (int i = 0; i < 40; ++i) AddLong(*connection, i, 200000);
     self.Tell(0);
     self.Wait();
   });
   ASSERT_EQ(other.Hear(), 0);
   other.Kill();
   const auto connection = store_.Connect();
-  EXPECT_TRUE(test::Rows(store_, *connection, "CustomNotifications")->Eof());
+  EXPECT_TRUE(store_.Open(*connection, "CustomNotifications")->Eof());
   connection->Execute(Add);
-  EXPECT_EQ(Count(), "2");
-  ExpectSound();
+  EXPECT_EQ(store_.Ask(Count) + store_.Ask("PRAGMA integrity_check"), "2\nok\n");
 }
 
 TEST_P(SharingTest, ADiskThatTakesNoMoreLosesOnlyTheLastStatement) {
-  OtherProcess other([&](OtherProcess& self) {
+  const int done = test::OnFullDisk(400000, [&] {
     const auto connection = store_.Connect();
-    std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit limit{400000, 400000};
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-    int error = 0, done = 0;
-    for (; error == 0 && done < 100; ++done)
-      error = ErrorOf([&] {
-        connection->Execute("INSERT INTO CustomNotifications VALUES ('" + std::to_string(done) + "', 'x', '" +
-                            std::string(20000, 'x') + "')");
-      });
-    self.Tell(error);
-    self.Tell(done - 1);
+    int error = 0, count = 0;
+    for (; error == 0 && count < 100; ++count) error = ErrorOf([&] { AddLong(*connection, count, 20000); });
+    return error == errors::DeviceIo ? count - 1 : -1;
   });
-  EXPECT_EQ(other.Hear(), errors::DeviceIo);
-  const int done = other.Hear();
   EXPECT_GT(done, 0);
-  EXPECT_EQ(other.Hear(), 0);
-  EXPECT_EQ(test::Ask(store_.File, "SELECT count(*) FROM CustomNotifications"), std::to_string(done));
-  ExpectSound();
+  EXPECT_EQ(store_.Ask("SELECT count(*) FROM CustomNotifications"), std::to_string(done) + "\n");
+  EXPECT_EQ(store_.Ask("PRAGMA integrity_check"), "ok\n");
 }
 
 TEST_P(SharingTest, TransactionsEndWithTheConnection) {
   const auto connection = store_.Connect();
   EXPECT_EQ(ErrorOf([&] { connection->CommitTrans(); }), errors::DataFailure);
-  connection->BeginTrans();
-  EXPECT_EQ(ErrorOf([&] { connection->BeginTrans(); }), errors::DataFailure);
-  connection->Execute(Add);
-  connection->RollbackTrans();
-  connection->BeginTrans();
-  connection->Execute(Add);
-  EXPECT_NE(ErrorOf([&] { connection->Execute("INSERT INTO AlarmGroups ([Index]) VALUES ('x')"); }), 0);
-  connection->CommitTrans();
-  connection->BeginTrans();
-  connection->Execute(Add);
-  connection->Close();
-  EXPECT_EQ(Count(), "1");
+  for (const auto end : {&Connection::RollbackTrans, &Connection::CommitTrans, &Connection::Close}) {
+    connection->BeginTrans();
+    EXPECT_EQ(ErrorOf([&] { connection->BeginTrans(); }), errors::DataFailure);
+    connection->Execute(Add);
+    EXPECT_NE(ErrorOf([&] { connection->Execute("INSERT INTO AlarmGroups ([Index]) VALUES ('x')"); }), 0);
+    (*connection.*end)();
+  }
+  EXPECT_EQ(store_.Ask(Count), "1\n");
 }
 
 INSTANTIATE_TEST_SUITE_P(Journals, SharingTest, testing::Values("wal", "delete"));

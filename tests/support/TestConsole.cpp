@@ -1,9 +1,10 @@
 #include "support/TestConsole.h"
 
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 
 #include <map>
+
+#include "support/TestStore.h"
 
 namespace corvane::test {
 namespace {
@@ -64,23 +65,7 @@ TestConsole::TestConsole(Installation::Kind kind)
             installed_->Ports().CreateChannelReader},
       App(Ports) {}
 
-// The engine itself reads here, past everything that is tested.
-std::string TestConsole::Rows(const std::string& sql) {
-  sqlite3* database = nullptr;
-  EXPECT_EQ(SQLITE_OK, sqlite3_open((Folder() / Installation::DatabaseFile).c_str(), &database));
-  std::string text;
-  const auto addRow = [](void* to, int count, char** cells, char**) {
-    auto& rows = *static_cast<std::string*>(to);
-    for (int i = 0; i < count; ++i) rows += std::string(i > 0 ? "|" : "") + (cells[i] ? cells[i] : "NULL");
-    rows += "\n";
-    return 0;
-  };
-  char* error = nullptr;
-  EXPECT_EQ(SQLITE_OK, sqlite3_exec(database, sql.c_str(), addRow, &text, &error)) << sql << ": " << error;
-  sqlite3_free(error);
-  sqlite3_close(database);
-  return text;
-}
+std::string TestConsole::Rows(const std::string& sql) { return Ask(Folder() / Installation::DatabaseFile, sql); }
 
 void TestConsole::SetLab(const std::string& section, const std::string& key, const std::string& value) {
   LabNetwork network(Folder() / Installation::LabFile);
