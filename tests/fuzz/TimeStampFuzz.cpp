@@ -1,19 +1,14 @@
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-#include <string_view>
-
 #include "core/TimeStamp.h"
+#include "fuzz/Fuzz.h"
 #include "platform/RuntimeError.h"
 
 // Whatever is read as a stamp is written as one that reads the same.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+void corvane::fuzz::Try(const std::string& input) {
   try {
-    const corvane::DateTime time = corvane::ParseTimeStamp({reinterpret_cast<const char*>(data), size});
-    if (corvane::ParseTimeStamp(corvane::TimeStampText(time)) != time) std::abort();
-  } catch (const corvane::RuntimeError& error) {
+    const DateTime time = ParseTimeStamp(input);
+    Require(ParseTimeStamp(TimeStampText(time)) == time);
+  } catch (const RuntimeError& error) {
     const int number = error.Number;
-    if (number != 5 && number != 6 && number != 9 && number != 13) std::abort();
+    Require(number == 5 || number == errors::Overflow || number == 9 || number == errors::TypeMismatch);
   }
-  return 0;
 }
