@@ -1,0 +1,44 @@
+#include <benchmark/benchmark.h>
+
+#include "core/console/frmBegin.h"
+#include "core/console/frmStartup.h"
+#include "logs/frmLogEdit.h"
+#include "qt/FaceHost.h"
+#include "support/BenchConsole.h"
+#include "support/BenchInstallation.h"
+#include "support/Duel.h"
+#include "support/RatioReporter.h"
+
+namespace corvane::bench {
+namespace {
+
+constexpr double ScreenLimit = 0.030;
+
+// From the form's construction to the picture of its window.
+template <class Form>
+void OpenScreen(benchmark::State& state) {
+  const BenchInstallation installation;
+  FaceHost host;
+  BenchConsole console(installation.Folder(), host);
+  console.App.Main();
+  bool painted = true;
+  const auto open = [&] {
+    Form form(console.App.State());
+    form.Show();
+    painted = painted && !host.Picture(form).isNull();
+  };
+  Duel duel;
+  for (auto _ : state) state.SetIterationTime(duel.Round([&] { return SecondsOf(Clock::Processor, open); }));
+  if (!painted) state.SkipWithError("the window was not shown");
+  Report(state, {duel.Work(), ScreenLimit, 1}, "limit");
+}
+
+// The first opening also loads what all later ones find loaded.
+BENCHMARK(OpenScreen<frmLogEdit>)->Name("log editor opened and painted, first time")->Iterations(1)->UseManualTime();
+BENCHMARK(OpenScreen<frmBegin>)->Name("notice of the first run opened and painted")->Iterations(50)->UseManualTime();
+BENCHMARK(OpenScreen<frmStartup>)->Name("About box opened and painted")->Iterations(50)->UseManualTime();
+BENCHMARK(OpenScreen<frmLogEdit>)->Name("log editor opened and painted")->Iterations(50)->UseManualTime();
+BENCHMARK(OpenScreen<frmCVMain>)->Name("main window opened and painted")->Iterations(50)->UseManualTime();
+
+}  // namespace
+}  // namespace corvane::bench
