@@ -4,7 +4,6 @@
 #include <unordered_map>
 
 #include "core/PassOver.h"
-#include "core/SqlText.h"
 #include "core/modMain.h"
 
 namespace corvane {
