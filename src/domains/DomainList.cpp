@@ -37,7 +37,7 @@ void FillByDirectory(modMain& main, const std::string& domain, ui::ComboBox& box
   std::string primary = TrustName(main, server, DirectoryApi::PrimaryDomain, 1);
   // A workgroup has no controller that could name it: it stands in the list under the name that was chosen for it.
   if (primary.empty()) primary = domain;
-  box.AddItem(primary);
+  if (!primary.empty()) box.AddItem(primary);
   int trusts = 0;
   PassOver([&] { trusts = main.DirectoryApi->DsGetNumberOfTrusts(server, DirectoryApi::DirectlyTrusted); });
   for (int i = 1; i <= trusts; ++i) box.AddItem(TrustName(main, server, DirectoryApi::DirectlyTrusted, i));

@@ -77,6 +77,8 @@ TEST(Start, AFirstRunShowsItsNoticeAndRegistersTheEventSource) {
   EXPECT_EQ("7", settings.GetKeyValue(source, "TypesSupported"));
   EXPECT_EQ("11_16_2026_14_5_9", console.Setting("LastUpgradeCheck"));
   EXPECT_EQ("", console.Setting("Created"));
+  // Nobody has named a domain yet.
+  EXPECT_EQ(0, console.Window().lstDomain.Count());
   // The bridge was started on the way.
   EXPECT_EQ("running", console.Window().stbMain.Panels[2].Picture);
 }

@@ -10,7 +10,7 @@ namespace {
 
 TEST(LinuxSystemTest, TellsTheWallClockOfTheZoneInForceAndAFlatName) {
   LinuxSystem system;
-  const std::pair<const char*, long> zones[] = {{"UTC0", 0}, {"XXX-5:30", 19800}, {"YYY8", -28800}};
+  const std::pair<const char*, long> zones[] = {{"UTC0", 0}, {"AAA-5:30", 19800}, {"BBB8", -28800}};
   for (const auto& [zone, offset] : zones) {
     ::setenv("TZ", zone, 1);
     const long long seconds = (system.Now() - MakeDateTime(1970, 1, 1)).count() - offset;
