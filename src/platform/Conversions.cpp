@@ -58,9 +58,12 @@ bool IsTiny(std::string_view number) {
 
 // Most numbers are a few plain digits, which need no floating point.
 std::optional<std::int32_t> FewDigits(std::string_view text) {
-  if (text.empty() || text.size() > 9 || DigitsFrom(text, 0) != text.size()) return std::nullopt;
+  if (text.empty() || text.size() > 9) return std::nullopt;
   std::int32_t number = 0;
-  for (const char c : text) number = number * 10 + (c - '0');
+  for (const char c : text) {
+    if (!IsDigit(c)) return std::nullopt;
+    number = number * 10 + (c - '0');
+  }
   return number;
 }
 

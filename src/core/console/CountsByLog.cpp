@@ -18,7 +18,7 @@ int Compare(std::string_view a, std::string_view b) {
 
 }  // namespace
 
-bool CountsByLog::Begin(std::string_view idName) {
+bool CountsByLog::BeginOther(std::string_view idName) {
   if (!entries_.empty() && Compare(entries_.back().IDName, idName) == 0) return false;
   entries_.push_back({std::string(idName), 0});
   return true;

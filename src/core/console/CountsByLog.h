@@ -11,7 +11,10 @@ namespace corvane {
 class CountsByLog {
  public:
   /// Goes on to a log; they come in the order of their keys. False when it is the same as before.
-  bool Begin(std::string_view idName);
+  bool Begin(std::string_view idName) {
+    // Nearly always the same spelling as before.
+    return (entries_.empty() || entries_.back().IDName != idName) && BeginOther(idName);
+  }
   /// Adds rows to the log that was begun last.
   void Add(int rows) { entries_.back().Rows += rows; }
 
@@ -23,6 +26,8 @@ class CountsByLog {
     std::string IDName;
     int Rows = 0;
   };
+
+  bool BeginOther(std::string_view idName);
 
   std::vector<Entry> entries_;
   mutable std::size_t next_ = 0;
