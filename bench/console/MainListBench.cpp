@@ -54,7 +54,7 @@ BENCHMARK_CAPTURE(FillMainList, 3, 1000, NoBudget)
     ->UseManualTime();
 BENCHMARK_CAPTURE(FillMainList, 4, 10'000, Allowed)
     ->Name("main list of 10000 logs filled")
-    ->Iterations(30)
+    ->Iterations(60)
     ->UseManualTime();
 BENCHMARK_CAPTURE(FillMainList, 5, 100'000, NoBudget)
     ->Name("main list of 100000 logs filled")
