@@ -79,6 +79,7 @@ TEST_F(LabNetworkTest, MistakesInTheFileAreToldWithTheirLine) {
       {"[Computer DESK]", "[Computer dc1]", "dc1 stands twice"},
       {"Domain = SHED", "Domain = HUT", "its domain stands nowhere"},
       {"Unit = Servers/Web", "Unit = Web", "its unit stands nowhere"},
+      {"System = new", "System = newer", "its system stands nowhere"},
       {"Trusts = NORTH", "Trusts = WEST", "Line 16 of the lab file: WEST stands nowhere"},
       {"LocalComputer = desk", "LocalComputer = chair", "the local computer stands nowhere"},
       {"Address = 192.0.2.7", "Role = controller\nAddress = 192.0.2.7", "a workgroup has no controller"},

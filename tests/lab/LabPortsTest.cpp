@@ -30,16 +30,20 @@ std::string All(Call call) {
 
 TEST_F(LabPortsTest, EnumerationsEndEachInItsWay) {
   LabNetX net(Network);
-  const std::tuple<const char*, std::uint32_t, const char*> servers[] = {
+  const struct {
+    const char* Domain;
+    std::uint32_t Types;
+    std::string Names;
+  } servers[] = {
       {"north", NetX::WindowsNT, " +DC1 +DESK +WEB -"},
       {"NORTH", NetX::DomainController, " +DC1 -"},
   };
-  for (const auto& [domain, types, names] : servers)
-    EXPECT_EQ(All([&](auto& name, int mode) { return net.EnumServers(domain, name, types, mode); }), names) << domain;
+  for (const auto& c : servers)
+    EXPECT_EQ(All([&](auto& name, int mode) { return net.EnumServers(c.Domain, name, c.Types, mode); }), c.Names);
   const std::pair<const char*, std::string> trusts[] = {
       {R"(\\DC1)", " +SOUTH\0 -EAST\0"s}, {R"(\\EDC)", " -"}, {R"(\\DESK)", " -"}, {R"(\\)", " -"}};
-  for (const auto& [server, names] : trusts)
-    EXPECT_EQ(All([&](auto& name, int mode) { return net.EnumTrustedDomains(server, name, mode); }), names) << server;
+  for (const auto& c : trusts)
+    EXPECT_EQ(All([&](auto& name, int mode) { return net.EnumTrustedDomains(c.first, name, mode); }), c.second);
 }
 
 TEST_F(LabPortsTest, TheDirectoryKnowsControllersAndTrusts) {
@@ -81,13 +85,13 @@ TEST_F(LabPortsTest, UnitsAreSearchedByPathAndScope) {
       {"<LDAP://DC=north,DC=example>;(objectClass=user);name;subtree", "The search query is not understood."},
       {"", "The search query is not understood."},
   };
-  for (const auto& [text, expected] : cases) {
+  for (const auto& c : cases) {
     std::string told;
     Names found;
-    const int error = ErrorOf([&] { found = query.Search(text); }, &told);
+    const int error = ErrorOf([&] { found = query.Search(c.first); }, &told);
     for (const std::string& name : found) told += name + " ";
-    EXPECT_EQ(told, expected) << text;
-    EXPECT_EQ(error, expected.ends_with('.') ? errors::AutomationError : 0) << text;
+    EXPECT_EQ(told, c.second) << c.first;
+    EXPECT_EQ(error, told.ends_with('.') ? errors::AutomationError : 0) << c.first;
   }
 }
 
@@ -118,6 +122,8 @@ TEST_F(LabPortsTest, AServiceIsPendingForItsTimeAndStaysInTheFile) {
     std::string text = Text;
     EXPECT_EQ(Folder.Read("lab.ini"), text.insert(text.find("[Service Bridge]"), lines));
   };
+  std::uint32_t state = 0;
+  EXPECT_FALSE(services.QueryStatus(control, state) || services.QueryStatus(0, state));
   EXPECT_FALSE(services.Start(reader));
   EXPECT_FALSE(services.Control(control, service::StopControl)) << "it is stopped";
   // A folder in the way of the new file makes the lab file one that cannot be replaced.

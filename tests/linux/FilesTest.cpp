@@ -63,11 +63,11 @@ TEST_F(FilesTest, FailuresBearTheNumbersOfTheProduct) {
   } cases[] = {{R"(C:\Corvane\missing.txt)", 53, 53, 53, 0},
                {R"(C:\Corvane\none\x.txt)", 76, 76, 76, 76},
                {R"(C:\Corvane\folder)", 75, 53, 75, 75}};
-  for (const auto& [path, reading, measuring, deleting, writing] : cases) {
-    EXPECT_EQ(ErrorOf([&] { Files.OpenForInput(path); }), reading) << path;
-    EXPECT_EQ(ErrorOf([&] { Files.Length(path); }), measuring) << path;
-    EXPECT_EQ(ErrorOf([&] { Files.Delete(path); }), deleting) << path;
-    EXPECT_EQ(ErrorOf([&] { Files.Write(path, "x"); }), writing) << path;
+  for (const auto& c : cases) {
+    EXPECT_EQ(ErrorOf([&] { Files.OpenForInput(c.Path); }), c.Reading) << c.Path;
+    EXPECT_EQ(ErrorOf([&] { Files.Length(c.Path); }), c.Measuring) << c.Path;
+    EXPECT_EQ(ErrorOf([&] { Files.Delete(c.Path); }), c.Deleting) << c.Path;
+    EXPECT_EQ(ErrorOf([&] { Files.Write(c.Path, "x"); }), c.Writing) << c.Path;
   }
   EXPECT_EQ(ErrorOf([&] { Files.Write("/dev/full", "x"); }), errors::DiskFull);
   fs::permissions(Folder.Write("secret.txt", "x"), fs::perms::none);

@@ -61,8 +61,8 @@ TEST(Statements, FailWithTheNumbersOfTheDataLayer) {
       {" ", errors::DataSyntax},
       {"ATTACH DATABASE '/tmp/other' AS other", errors::DataSyntax},
   };
-  for (const auto& [sql, error] : cases)
-    EXPECT_EQ(test::ErrorOf([&] { connection->Execute(sql); }), error) << sql.substr(0, 90);
+  for (const auto& c : cases)
+    EXPECT_EQ(test::ErrorOf([&] { connection->Execute(c.first); }), c.second) << c.first.substr(0, 90);
   EXPECT_EQ(store.Ask("SELECT count(*) FROM RegisteredServers"), "2\n");
 }
 
