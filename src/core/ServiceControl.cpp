@@ -56,4 +56,10 @@ int StopCorvaneServiceNow(ServiceManager& services) { return StopNow(services, M
 int StartSyslogBridgeNow(ServiceManager& services) { return StartNow(services, SyslogBridge); }
 int StopSyslogBridgeNow(ServiceManager& services) { return StopNow(services, SyslogBridge); }
 
+bool SetServiceAutoStart(ServiceManager& services) {
+  const OpenedService opened(services, MonitoringService, service::ChangeConfigAccess);
+  return opened.Handle() != 0 &&
+         services.ChangeConfig(opened.Handle(), service::NoChange, service::AutoStart, service::NoChange);
+}
+
 }  // namespace corvane

@@ -15,4 +15,7 @@ int StopCorvaneServiceNow(ServiceManager& services);
 int StartSyslogBridgeNow(ServiceManager& services);
 int StopSyslogBridgeNow(ServiceManager& services);
 
+/// Has the system start the monitoring service by itself. False when the request was refused.
+bool SetServiceAutoStart(ServiceManager& services);
+
 }  // namespace corvane

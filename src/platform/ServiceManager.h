@@ -17,8 +17,13 @@ inline constexpr std::uint32_t Running = 4;
 inline constexpr std::uint32_t Connect = 1;
 inline constexpr std::uint32_t ReadAccess = 0x80000000;
 inline constexpr std::uint32_t ExecuteAccess = 0x20000000;
+inline constexpr std::uint32_t ChangeConfigAccess = 2;
 
 inline constexpr std::uint32_t StopControl = 1;
+
+// Settings of a service.
+inline constexpr std::uint32_t NoChange = 0xFFFFFFFF;
+inline constexpr std::uint32_t AutoStart = 2;
 }  // namespace service
 
 /// The service manager of this computer. No call waits for a service to arrive at its new state.
@@ -36,6 +41,10 @@ class ServiceManager {
   virtual bool Start(ServiceHandle service) = 0;
   /// Sends a control code. False on failure.
   virtual bool Control(ServiceHandle service, std::uint32_t code) = 0;
+  /// Changes the kind of a service, how it is started and what a failure at its start does; `NoChange` leaves one as it
+  /// is. False on failure.
+  virtual bool ChangeConfig(ServiceHandle service, std::uint32_t type, std::uint32_t start,
+                            std::uint32_t errorControl) = 0;
   virtual void Close(ServiceHandle handle) = 0;
 };
 

@@ -72,6 +72,7 @@ struct LabService {
   /// How long starting and stopping take, in milliseconds.
   int StartMs = 0, StopMs = 0;
   bool RefusesRead = false, RefusesControl = false;
+  bool StartsBySystem = false;
 
   /// The state at a moment in milliseconds since 1970.
   std::uint32_t StateAt(std::int64_t now) const;

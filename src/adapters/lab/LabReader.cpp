@@ -299,6 +299,10 @@ class Reader {
                        }},
                       {"StartMs", [](LabService& s, const Entry& e) { s.StartMs = ToMilliseconds(e); }},
                       {"StopMs", [](LabService& s, const Entry& e) { s.StopMs = ToMilliseconds(e); }},
+                      {"Start",
+                       [](LabService& s, const Entry& e) {
+                         s.StartsBySystem = ToChoice(e, {"manual", "automatic"}) == 1;
+                       }},
                       {"Refuses", [](LabService& s, const Entry& e) {
                          const auto choice = ToChoice(e, {"nothing", "control", "everything"});
                          s.RefusesControl = choice >= 1;

@@ -37,19 +37,36 @@ bool LabServiceManager::Control(ServiceHandle handle, std::uint32_t code) {
 
 void LabServiceManager::Close(ServiceHandle handle) { handles_.Close(handle); }
 
+bool LabServiceManager::ChangeConfig(ServiceHandle handle, std::uint32_t type, std::uint32_t start,
+                                     std::uint32_t errorControl) {
+  if (type != service::NoChange || start != service::AutoStart || errorControl != service::NoChange) return false;
+  return Edit(handle, service::ChangeConfigAccess, [](const LabService&, const Setter& set) {
+    set("Start", "automatic");
+    return true;
+  });
+}
+
 bool LabServiceManager::Pass(ServiceHandle handle, const Passage& passage) {
+  return Edit(handle, service::ExecuteAccess, [&](const LabService& service, const Setter& set) {
+    const std::int64_t now = network_.Now();
+    if (service.StateAt(now) != passage.From) return false;
+    const int takes = service.*passage.Milliseconds;
+    set("State", takes > 0 ? passage.Pending : passage.Final);
+    set("Until", std::to_string(takes > 0 ? now + takes : 0));
+    return true;
+  });
+}
+
+bool LabServiceManager::Edit(ServiceHandle handle, std::uint32_t access,
+                             const std::function<bool(const LabService&, const Setter&)>& edit) {
   const Opened* opened = handles_.Find(handle);
-  if (!opened || opened->Service.empty() || (opened->Access & service::ExecuteAccess) == 0) return false;
+  if (!opened || opened->Service.empty() || (opened->Access & access) == 0) return false;
   try {
     return network_.Change([&](const LabModel& model, LabFile& file) {
-      const std::int64_t now = network_.Now();
       const LabService* found = model.FindService(opened->Service);
-      if (!found || found->StateAt(now) != passage.From) return false;
-      const int takes = found->*passage.Milliseconds;
+      if (!found) return false;
       const std::string section = "Service " + found->Name;
-      file.Set(section, "State", takes > 0 ? passage.Pending : passage.Final);
-      file.Set(section, "Until", std::to_string(takes > 0 ? now + takes : 0));
-      return true;
+      return edit(*found, [&](const std::string& key, const std::string& value) { file.Set(section, key, value); });
     });
   } catch (const RuntimeError&) {
     // A lab file that cannot be written is a request that failed, as it is with the real manager.

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <functional>
+#include <string>
+
 #include "adapters/lab/LabHandles.h"
 #include "adapters/lab/LabNetwork.h"
 #include "platform/ServiceManager.h"
@@ -19,6 +22,8 @@ class LabServiceManager : public ServiceManager {
   bool Start(ServiceHandle handle) override;
   /// Knows the stop, which fails for a service that is not running.
   bool Control(ServiceHandle handle, std::uint32_t code) override;
+  /// Knows the automatic start; all else has to stay as it is.
+  bool ChangeConfig(ServiceHandle handle, std::uint32_t type, std::uint32_t start, std::uint32_t errorControl) override;
   void Close(ServiceHandle handle) override;
   std::size_t OpenHandles() const { return handles_.Count(); }
 
@@ -28,6 +33,8 @@ class LabServiceManager : public ServiceManager {
     std::string Service;
     std::uint32_t Access = 0;
   };
+  /// Writes a key of the service's section.
+  using Setter = std::function<void(const std::string& key, const std::string& value)>;
   /// A way from one lasting state over a pending one to the other.
   struct Passage {
     std::uint32_t From;
@@ -36,6 +43,9 @@ class LabServiceManager : public ServiceManager {
   };
 
   bool Pass(ServiceHandle handle, const Passage& passage);
+  /// Edits the service of a handle that was opened with the access. False as well when the file cannot be written.
+  bool Edit(ServiceHandle handle, std::uint32_t access,
+            const std::function<bool(const LabService& service, const Setter& set)>& edit);
 
   LabNetwork& network_;
   LabHandles<Opened> handles_;
