@@ -20,6 +20,13 @@ class IdleHost : public ui::UiHost {
   void Forget(const ui::Form&) override {}
   ui::MsgResult MsgBox(const std::string& text, ui::MsgIcon icon, ui::MsgButtons buttons,
                        const std::string& title) override;
+  std::optional<std::string> SaveFile(const ui::SaveDialog&) override { return std::nullopt; }
+  std::optional<ui::Container> ChooseContainer(const std::string&, const ui::Container&,
+                                               const ui::ContainersOf&) override {
+    return std::nullopt;
+  }
+  void SetClipboardText(const std::string&) override {}
+  void Beep() override {}
   void PopupMenu(ui::MenuItem&) override {}
   void SetFocus(ui::Control&) override {}
   void DoEvents() override {}

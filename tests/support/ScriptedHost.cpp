@@ -16,6 +16,7 @@ void Run(const ui::Handler& handler) {
 ScriptedHost::~ScriptedHost() {
   for (const ExpectedModal& modal : modals_) ADD_FAILURE() << "never shown: " << modal.Name;
   for (const ExpectedBox& box : boxes_) ADD_FAILURE() << "never shown: " << box.Text;
+  if (!files_.empty() || !containers_.empty()) ADD_FAILURE() << "a dialog was never shown";
   if (!duringEvents_.empty()) ADD_FAILURE() << "events were not served as often as foreseen";
 }
 
@@ -44,6 +45,33 @@ void ScriptedHost::Click(ui::MenuItem& item) {
 void ScriptedHost::Press(ui::Toolbar& bar, const std::string& key) {
   if (!bar.Button(key).Enabled) ADD_FAILURE() << key << " is disabled";
   bar.ButtonClick(key);
+}
+
+void ScriptedHost::PressItem(ui::Toolbar& bar, const std::string& key, const std::string& item) {
+  for (const ui::ToolItem& one : bar.Button(key).Items)
+    if (one.Caption == item) return Run(one.Click);
+  ADD_FAILURE() << key << " drops down no " << item;
+}
+
+void ScriptedHost::Click(ui::CheckBox& box) {
+  Require(box);
+  box.Value = !box.Value;
+  Run(box.Click);
+}
+
+void ScriptedHost::Choose(ui::OptionButton& option) {
+  Require(option);
+  for (ui::Control* control : option.Parent().Controls())
+    if (control->Kind() == ui::ControlKind::OptionButton && control->Name() == option.Name())
+      static_cast<ui::OptionButton*>(control)->Value = control == &option;
+  Run(option.Click);
+}
+
+void ScriptedHost::Type(ui::TextBox& box, const std::string& text) {
+  Require(box);
+  if (box.Locked) ADD_FAILURE() << box.Name() << " is locked";
+  for (const char character : text)
+    if (!box.KeyPress || box.KeyPress(static_cast<unsigned char>(character))) box.Text += character;
 }
 
 void ScriptedHost::Choose(ui::ComboBox& box, int index) {
@@ -154,6 +182,28 @@ ui::MsgResult ScriptedHost::MsgBox(const std::string& text, ui::MsgIcon icon, ui
   const ui::MsgResult answer = boxes_.front().Answer;
   boxes_.pop_front();
   return answer;
+}
+
+std::optional<std::string> ScriptedHost::SaveFile(const ui::SaveDialog& dialog) {
+  SaveDialogs.push_back(dialog);
+  if (files_.empty()) {
+    ADD_FAILURE() << "not foreseen: " << dialog.Title;
+    return std::nullopt;
+  }
+  const auto path = files_.front();
+  files_.pop_front();
+  return path;
+}
+
+std::optional<ui::Container> ScriptedHost::ChooseContainer(const std::string& title, const ui::Container& root,
+                                                           const ui::ContainersOf& containersOf) {
+  if (containers_.empty()) {
+    ADD_FAILURE() << "not foreseen: " << title;
+    return std::nullopt;
+  }
+  const auto script = std::move(containers_.front());
+  containers_.pop_front();
+  return script(root, containersOf);
 }
 
 void ScriptedHost::SetFocus(ui::Control& control) { Focus(control); }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -40,6 +41,11 @@ class ScriptedHost : public ui::UiHost {
   }
   /// The next box: its whole text and the answer.
   void OnBox(std::string text, ui::MsgResult answer = ui::MsgResult::Ok);
+  /// The next dialog that asks for a file's name, and the path that is given; nothing for Cancel.
+  void OnSaveFile(std::optional<std::string> path) { files_.push_back(std::move(path)); }
+  /// The next choice of a container: a script gets the root and the reader of its tree, and chooses.
+  using ContainerScript = std::function<std::optional<ui::Container>(const ui::Container&, const ui::ContainersOf&)>;
+  void OnChooseContainer(ContainerScript script) { containers_.push_back(std::move(script)); }
   /// What is run at the next call of `DoEvents`: the user acting meanwhile.
   void OnDoEvents(std::function<void()> action) { duringEvents_.push_back(std::move(action)); }
 
@@ -47,6 +53,11 @@ class ScriptedHost : public ui::UiHost {
   void Click(ui::CommandButton& button);
   void Click(ui::MenuItem& item);
   void Press(ui::Toolbar& bar, const std::string& key);
+  void PressItem(ui::Toolbar& bar, const std::string& key, const std::string& item);
+  void Click(ui::CheckBox& box);
+  void Choose(ui::OptionButton& option);
+  /// Types behind what stands in the box, character by character.
+  void Type(ui::TextBox& box, const std::string& text);
   void Choose(ui::ComboBox& box, int index);
   void Type(ui::ComboBox& box, const std::string& text);
   void BringToFront(ui::TabControl& tabs, int tab);
@@ -70,6 +81,11 @@ class ScriptedHost : public ui::UiHost {
   using UiHost::MsgBox;
   ui::MsgResult MsgBox(const std::string& text, ui::MsgIcon icon, ui::MsgButtons buttons,
                        const std::string& title) override;
+  std::optional<std::string> SaveFile(const ui::SaveDialog& dialog) override;
+  std::optional<ui::Container> ChooseContainer(const std::string& title, const ui::Container& root,
+                                               const ui::ContainersOf& containersOf) override;
+  void SetClipboardText(const std::string& text) override { Clipboard = text; }
+  void Beep() override { ++Beeps; }
   void PopupMenu(ui::MenuItem& menu) override { Popups.push_back(&menu); }
   void SetFocus(ui::Control& control) override;
   void DoEvents() override;
@@ -83,6 +99,9 @@ class ScriptedHost : public ui::UiHost {
   std::vector<int> Slept;
   std::vector<int> HelpTopics;
   std::vector<ui::MenuItem*> Popups;
+  std::vector<ui::SaveDialog> SaveDialogs;
+  std::string Clipboard;
+  int Beeps = 0;
   int EventsServed = 0;
 
  private:
@@ -100,6 +119,8 @@ class ScriptedHost : public ui::UiHost {
 
   std::deque<ExpectedModal> modals_;
   std::deque<ExpectedBox> boxes_;
+  std::deque<std::optional<std::string>> files_;
+  std::deque<ContainerScript> containers_;
   std::deque<std::function<void()>> duringEvents_;
   std::vector<ui::Form*> shownForms_;
 };

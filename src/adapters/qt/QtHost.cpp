@@ -1,11 +1,15 @@
 #include "adapters/qt/QtHost.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QCursor>
+#include <QFileDialog>
 #include <QMessageBox>
+#include <QStandardPaths>
 #include <QThread>
 #include <algorithm>
 
+#include "adapters/qt/ContainerDialog.h"
 #include "adapters/qt/FormView.h"
 #include "adapters/qt/HelpWindow.h"
 #include "adapters/qt/Text.h"
@@ -166,18 +170,53 @@ ui::MsgResult QtHost::MsgBox(const std::string& text, ui::MsgIcon icon, ui::MsgB
   for (const Answer& answer : answers) box.addButton(answer.Button);
   box.setDefaultButton(answers.front().Button);
   box.setEscapeButton(answers.back().Button);
-  QEventLoop loop;
-  QObject::connect(&box, &QDialog::finished, &loop, &QEventLoop::quit);
   box.adjustSize();
-  PlaceAbove(box, Opener(), true);
-  box.show();
-  dispatcher_.Run(loop);
-  Reactivate();
-  dispatcher_.Rethrow();
+  RunDialog(box);
   for (const Answer& answer : answers)
     if (box.standardButton(box.clickedButton()) == answer.Button) return answer.Result;
   return answers.back().Result;
 }
+
+// Shows a dialog of the toolkit's above the window in front until it is answered.
+void QtHost::RunDialog(QDialog& dialog) {
+  QEventLoop loop;
+  QObject::connect(&dialog, &QDialog::finished, &loop, &QEventLoop::quit);
+  PlaceAbove(dialog, Opener(), true);
+  dialog.show();
+  dispatcher_.Run(loop);
+  Reactivate();
+  dispatcher_.Rethrow();
+}
+
+// The toolkit's own dialog: one of the desktop would run its loop beyond the reach of the host.
+std::optional<std::string> QtHost::SaveFile(const ui::SaveDialog& dialog) {
+  dispatcher_.Rethrow();
+  Flush();
+  QFileDialog chooser(nullptr, ToQt(dialog.Title), QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+                      ToQt(dialog.Filter));
+  chooser.setOption(QFileDialog::DontUseNativeDialog);
+  chooser.setAcceptMode(QFileDialog::AcceptSave);
+  chooser.setDefaultSuffix(ToQt(dialog.Pattern).section('.', -1));
+  chooser.selectFile(ToQt(dialog.FileName));
+  RunDialog(chooser);
+  if (chooser.result() != QDialog::Accepted || chooser.selectedFiles().isEmpty()) return std::nullopt;
+  std::string path = FromQt(chooser.selectedFiles().first());
+  std::replace(path.begin(), path.end(), '/', '\\');
+  return path;
+}
+
+std::optional<ui::Container> QtHost::ChooseContainer(const std::string& title, const ui::Container& root,
+                                                     const ui::ContainersOf& containersOf) {
+  dispatcher_.Rethrow();
+  Flush();
+  ContainerDialog dialog(title, root, containersOf);
+  RunDialog(dialog);
+  return dialog.Chosen();
+}
+
+void QtHost::SetClipboardText(const std::string& text) { QGuiApplication::clipboard()->setText(ToQt(text)); }
+
+void QtHost::Beep() { QApplication::beep(); }
 
 void QtHost::PopupMenu(ui::MenuItem& menu) {
   dispatcher_.Rethrow();

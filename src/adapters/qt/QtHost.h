@@ -3,12 +3,15 @@
 #include <QElapsedTimer>
 #include <QImage>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "adapters/qt/Dispatcher.h"
 #include "adapters/qt/FormRegistry.h"
 #include "platform/ui/UiHost.h"
+
+class QDialog;
 
 namespace corvane::qt {
 
@@ -32,6 +35,11 @@ class QtHost : public ui::UiHost {
   using UiHost::MsgBox;
   ui::MsgResult MsgBox(const std::string& text, ui::MsgIcon icon, ui::MsgButtons buttons,
                        const std::string& title) override;
+  std::optional<std::string> SaveFile(const ui::SaveDialog& dialog) override;
+  std::optional<ui::Container> ChooseContainer(const std::string& title, const ui::Container& root,
+                                               const ui::ContainersOf& containersOf) override;
+  void SetClipboardText(const std::string& text) override;
+  void Beep() override;
   void PopupMenu(ui::MenuItem& menu) override;
   void SetFocus(ui::Control& control) override;
   void DoEvents() override;
@@ -50,6 +58,7 @@ class QtHost : public ui::UiHost {
  private:
   FormView& Open(ui::Form& form, bool modal);
   QWidget* Opener() const;
+  void RunDialog(QDialog& dialog);
   void Flush();
   void Retire(FormView& view);
   void ClearRetired();

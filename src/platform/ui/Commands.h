@@ -27,6 +27,12 @@ struct MenuItem : Control {
   std::vector<MenuItem*> Items;
 };
 
+/// A line in the drop-down of a toolbar button.
+struct ToolItem {
+  std::string Caption;
+  Handler Click;
+};
+
 struct ToolButton {
   std::string Key;
   std::string Caption;
@@ -34,6 +40,8 @@ struct ToolButton {
   std::string Picture;
   bool Enabled = true;
   bool Separator = false;
+  /// What the arrow beside the button drops down; a button without any has no arrow.
+  std::vector<ToolItem> Items{};
 };
 
 struct Toolbar : Control {

@@ -17,6 +17,8 @@ enum class ControlKind {
   CommandButton,
   Frame,
   Image,
+  CheckBox,
+  OptionButton,
   TextBox,
   ComboBox,
   ListBox,

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -22,6 +25,39 @@ struct CommandButton : Control {
   Handler Click;
 };
 
+struct CheckBox : Control {
+  CheckBox(Form& form, std::string_view name) : Control(form, name, ControlKind::CheckBox) {}
+
+  std::string Caption;
+  bool Value = false;
+  /// The user ticked the box or took the tick away.
+  Handler Click;
+};
+
+/// One of several choices. The options of one name in a form belong together: the user choosing one leaves the others.
+struct OptionButton : Control {
+  OptionButton(Form& form, std::string_view name) : Control(form, name, ControlKind::OptionButton) {}
+
+  std::string Caption;
+  bool Value = false;
+  /// The user chose this option.
+  Handler Click;
+};
+
+/// Turns the option of an index on and the others off; -1 turns all off.
+template <std::size_t Count>
+void ChooseOption(std::array<OptionButton, Count>& group, int index) {
+  for (std::size_t i = 0; i < Count; ++i) group[i].Value = static_cast<int>(i) == index;
+}
+
+/// Index of the option that is on; -1 for none.
+template <std::size_t Count>
+int ChosenOption(const std::array<OptionButton, Count>& group) {
+  for (std::size_t i = 0; i < Count; ++i)
+    if (group[i].Value) return static_cast<int>(i);
+  return -1;
+}
+
 /// A titled group of controls.
 struct Frame : Control {
   Frame(Form& form, std::string_view name) : Control(form, name, ControlKind::Frame) {}
@@ -42,6 +78,11 @@ struct TextBox : Control {
   /// Shown and copied, but not typed into.
   bool Locked = false;
   bool MultiLine = false;
+  /// Shown as dots, and never copied or undone.
+  bool IsPassword = false;
+  /// Asked for each character that the user types or pastes, as a Unicode code point; false refuses it. It may beep,
+  /// but must not change any control.
+  std::function<bool(char32_t character)> KeyPress;
 };
 
 struct ProgressBar : Control {

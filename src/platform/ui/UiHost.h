@@ -1,7 +1,9 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/ui/Control.h"
 
@@ -13,6 +15,24 @@ struct MenuItem;
 enum class MsgIcon { Exclamation, Information, Question };
 enum class MsgButtons { Ok, OkCancel, YesNo };
 enum class MsgResult { Ok, Cancel, Yes, No };
+
+/// What a dialog asks for that chooses the name of a file to write.
+struct SaveDialog {
+  std::string Title;
+  /// Such as "HTML files (*.htm)" and "*.htm".
+  std::string Filter, Pattern;
+  /// The name offered.
+  std::string FileName;
+};
+
+/// An entry of a tree of containers: what it is called, and the path that tells it.
+struct Container {
+  std::string Name;
+  std::string Path;
+};
+
+/// The containers directly within that of a path. Raises when they cannot be read.
+using ContainersOf = std::function<std::vector<Container>(const std::string& path)>;
 
 /// Thrown by `EndProgram` through every handler and loop up to the program's start. It is no error and derives from
 /// nothing, so that code which passes over errors does not stop it.
@@ -42,6 +62,15 @@ class UiHost {
   }
   virtual MsgResult MsgBox(const std::string& text, MsgIcon icon, MsgButtons buttons, const std::string& title) = 0;
 
+  /// Asks where to write a file. The path, with `\\` as separator, or nothing when the user cancels; replacing a file
+  /// that is there has been agreed to.
+  virtual std::optional<std::string> SaveFile(const SaveDialog& dialog) = 0;
+  /// Lets the user choose a container below `root`, whose tree is read as its branches are opened. Nothing when the
+  /// user cancels. What cannot be read is told in the dialog.
+  virtual std::optional<Container> ChooseContainer(const std::string& title, const Container& root,
+                                                   const ContainersOf& containersOf) = 0;
+  virtual void SetClipboardText(const std::string& text) = 0;
+  virtual void Beep() = 0;
   /// Opens a menu at the pointer and runs what is chosen.
   virtual void PopupMenu(MenuItem& menu) = 0;
   virtual void SetFocus(Control& control) = 0;

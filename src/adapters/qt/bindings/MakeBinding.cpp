@@ -1,3 +1,4 @@
+#include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -7,10 +8,12 @@
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTabWidget>
 #include <QTreeView>
 
 #include "adapters/qt/bindings/ButtonBinding.h"
+#include "adapters/qt/bindings/CheckBinding.h"
 #include "adapters/qt/bindings/ComboBoxBinding.h"
 #include "adapters/qt/bindings/FrameBinding.h"
 #include "adapters/qt/bindings/ImageBinding.h"
@@ -18,6 +21,7 @@
 #include "adapters/qt/bindings/ListBoxBinding.h"
 #include "adapters/qt/bindings/ListViewBinding.h"
 #include "adapters/qt/bindings/MenuBinding.h"
+#include "adapters/qt/bindings/OptionBinding.h"
 #include "adapters/qt/bindings/ProgressBinding.h"
 #include "adapters/qt/bindings/StatusBarBinding.h"
 #include "adapters/qt/bindings/TabBinding.h"
@@ -54,6 +58,10 @@ std::unique_ptr<Binding> Binding::Make(FormView& view, ui::Control& control, QWi
       return Bind<FrameBinding, ui::Frame, QGroupBox>(view, control, widget);
     case ui::ControlKind::Image:
       return Bind<ImageBinding, ui::Image, QLabel>(view, control, widget);
+    case ui::ControlKind::CheckBox:
+      return Bind<CheckBinding, ui::CheckBox, QCheckBox>(view, control, widget);
+    case ui::ControlKind::OptionButton:
+      return Bind<OptionBinding, ui::OptionButton, QRadioButton>(view, control, widget);
     case ui::ControlKind::TextBox:
       if (static_cast<ui::TextBox&>(control).MultiLine)
         return Bind<TextBinding, ui::TextBox, QPlainTextEdit>(view, control, widget);

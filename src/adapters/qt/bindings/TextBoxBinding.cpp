@@ -4,6 +4,7 @@
 #include <QPlainTextEdit>
 
 #include "adapters/qt/Text.h"
+#include "adapters/qt/bindings/CharacterFilter.h"
 
 namespace corvane::qt {
 namespace {
@@ -14,6 +15,8 @@ constexpr int PageMargin = 10;
 
 LineBinding::LineBinding(FormView& view, ui::TextBox& control, QLineEdit* line)
     : Binding(view, control, line), control_(control), line_(line) {
+  if (control.KeyPress) line->setValidator(new CharacterFilter(control, this));
+  if (control.IsPassword) line->setEchoMode(QLineEdit::Password);
   connect(line, &QLineEdit::textChanged, this, [this](const QString& text) {
     if (IsUsers()) control_.Text = FromQt(text);
   });

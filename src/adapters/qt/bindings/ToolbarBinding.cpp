@@ -2,7 +2,9 @@
 
 #include <QAction>
 #include <QMainWindow>
+#include <QMenu>
 #include <QToolBar>
+#include <QToolButton>
 
 #include "adapters/qt/Text.h"
 #include "adapters/qt/look/Icons.h"
@@ -27,7 +29,18 @@ void ToolbarBinding::Build() {
     if (button.Separator) continue;
     action->setObjectName(ToQt(button.Key));
     connect(action, &QAction::triggered, this, [this, key = button.Key] { Pressed(key); });
+    if (!button.Items.empty()) AddMenu(*action, button);
   }
+}
+
+void ToolbarBinding::AddMenu(QAction& action, const ui::ToolButton& button) {
+  auto* widget = qobject_cast<QToolButton*>(bar_->widgetForAction(&action));
+  auto* menu = new QMenu(widget);
+  for (const ui::ToolItem& item : button.Items)
+    connect(menu->addAction(ToQt(item.Caption)), &QAction::triggered, this,
+            [this, click = item.Click] { Fire(click); });
+  widget->setMenu(menu);
+  widget->setPopupMode(QToolButton::MenuButtonPopup);
 }
 
 void ToolbarBinding::Pressed(const std::string& key) {

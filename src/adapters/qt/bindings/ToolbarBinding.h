@@ -21,6 +21,7 @@ class ToolbarBinding : public Binding {
  private:
   void Build();
   void Pressed(const std::string& key);
+  void AddMenu(QAction& action, const ui::ToolButton& button);
 
   ui::Toolbar& control_;
   QToolBar* bar_;
