@@ -10,6 +10,7 @@ class DataProvider;
 class DirectoryApi;
 class DirectoryProvider;
 class EventLogs;
+class EventReader;
 class Files;
 class Launcher;
 class NetX;
@@ -33,6 +34,7 @@ struct Platform {
   DataProvider& Data;
   ServiceManager& Services;
   corvane::EventLogs& EventLogs;
+  corvane::EventReader& EventReader;
   corvane::NetX& NetX;
   corvane::DirectoryProvider& Directory;
   UnitQuery& Units;

@@ -8,6 +8,7 @@ namespace corvane::test {
 struct Replacements {
   corvane::Files* Files = nullptr;
   corvane::EventLogs* EventLogs = nullptr;
+  corvane::EventReader* EventReader = nullptr;
   corvane::NetX* NetX = nullptr;
   corvane::DirectoryProvider* Directory = nullptr;
   UnitQuery* Units = nullptr;
@@ -23,6 +24,7 @@ inline Platform Replace(const Platform& ports, const Replacements& with) {
                   ports.Data,
                   ports.Services,
                   choose(with.EventLogs, ports.EventLogs),
+                  choose(with.EventReader, ports.EventReader),
                   choose(with.NetX, ports.NetX),
                   choose(with.Directory, ports.Directory),
                   choose(with.Units, ports.Units),

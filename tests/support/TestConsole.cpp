@@ -54,6 +54,7 @@ TestConsole::TestConsole(Installation::Kind kind)
             Data,
             installed_->Ports().Services,
             installed_->Ports().EventLogs,
+            installed_->Ports().EventReader,
             installed_->Ports().NetX,
             installed_->Ports().Directory,
             installed_->Ports().Units,

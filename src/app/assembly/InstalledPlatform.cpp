@@ -4,6 +4,7 @@
 #include "adapters/lab/LabDirectoryApi.h"
 #include "adapters/lab/LabDirectoryProvider.h"
 #include "adapters/lab/LabEventLogs.h"
+#include "adapters/lab/LabEventReader.h"
 #include "adapters/lab/LabNetX.h"
 #include "adapters/lab/LabNetwork.h"
 #include "adapters/lab/LabPing.h"
@@ -66,6 +67,7 @@ struct InstalledPlatform::Adapters {
         LocalSystem(Network, Machine),
         Services(Network),
         EventLogs(Network),
+        LabEvents(Network, folder / Installation::EventLogFolder),
         Net(Network),
         Directory(Network),
         Units(Network),
@@ -87,6 +89,7 @@ struct InstalledPlatform::Adapters {
   LabSystem LocalSystem;
   LabServiceManager Services;
   LabEventLogs EventLogs;
+  LabEventReader LabEvents;
   LabNetX Net;
   LabDirectoryProvider Directory;
   LabUnitQuery Units;
@@ -99,8 +102,8 @@ InstalledPlatform::InstalledPlatform(const std::filesystem::path& folder, ui::Ui
     : adapters_(std::make_unique<Adapters>(folder)) {
   Adapters& all = *adapters_;
   platform_ = std::make_unique<Platform>(Platform{all.LocalSystem, all.Files, all.Registry, all.Profiles, all.Data,
-                                                  all.Services, all.EventLogs, all.Net, all.Directory, all.Units,
-                                                  *all.Echo, all.Launcher, all.Instance, host,
+                                                  all.Services, all.EventLogs, all.LabEvents, all.Net, all.Directory,
+                                                  all.Units, *all.Echo, all.Launcher, all.Instance, host,
                                                   [&all] { return std::make_unique<LabDirectoryApi>(all.Network); },
                                                   [&all] { return std::make_unique<LabChannelReader>(all.Network); }});
 }

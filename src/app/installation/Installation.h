@@ -20,6 +20,8 @@ class Installation {
   static constexpr const char* LabFile = "lab.ini";
   /// Where the registries of the lab's other computers lie.
   static constexpr const char* RegistryFolder = "registry";
+  /// Where the event logs of the local computer of the lab lie.
+  static constexpr const char* EventLogFolder = "eventlog";
   static constexpr const char* RapidConfigFolder = "RapidConfigs";
   static constexpr const char* AgentConfigFolder = "AgentConfigs";
   static constexpr const char* HelpFolder = "help";
