@@ -5,7 +5,8 @@
 
 namespace corvane {
 
-/// The network helper: what other computers and domains tell about themselves. No leading `\\` in names that come out.
+/// The network helper: what other computers and domains tell about themselves, and who may do what on them. No leading
+/// `\\` in names that come out; computers are named with or without it.
 class NetX {
  public:
   // Type masks of the server enumeration.
@@ -25,6 +26,19 @@ class NetX {
   virtual bool EnumTrustedDomains(const std::string& controller, std::string& name, int mode) = 0;
   /// Version of a computer's system. False on failure, with both numbers left at 0.
   virtual bool QueryOSVersion(const std::string& computer, int& major, int& minor) = 0;
+
+  /// Name of a controller of the domain; empty when none can be found.
+  virtual void GetDomainControllerName(const std::string& domain, std::string& name) = 0;
+  /// The next account that a computer keeps, without the name of the computer or domain: on a controller those of its
+  /// domain. True while names come; the call that gives false may still leave a name.
+  virtual bool EnumAccounts(const std::string& computer, std::string& name, int mode) = 0;
+  /// Grants a user right, such as `SeTcbPrivilege`, on a computer to an account `DOMAIN\Account` or `COMPUTER\Account`.
+  /// True on failure.
+  virtual bool GrantRight(const std::string& computer, const std::string& right, const std::string& account) = 0;
+  /// Has a service of a computer log on with an account from its next start on. The password is taken as it is given: a
+  /// wrong one shows when the service is started. True on failure.
+  virtual bool SetServiceAccount(const std::string& computer, const std::string& service, const std::string& account,
+                                 const std::string& password) = 0;
 };
 
 }  // namespace corvane

@@ -24,6 +24,12 @@ class ToldNetX : public NetX {
     return Tell(Trusts, name);
   }
   bool QueryOSVersion(const std::string&, int&, int&) override { return false; }
+  void GetDomainControllerName(const std::string&, std::string& name) override { name.clear(); }
+  bool EnumAccounts(const std::string&, std::string&, int) override { return false; }
+  bool GrantRight(const std::string&, const std::string&, const std::string&) override { return true; }
+  bool SetServiceAccount(const std::string&, const std::string&, const std::string&, const std::string&) override {
+    return true;
+  }
 
   std::deque<Answer> Servers, Trusts;
   std::string Asked;

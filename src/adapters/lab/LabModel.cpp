@@ -55,4 +55,25 @@ const LabComputer* LabModel::FindController(const std::string& domain) const {
   });
 }
 
+const std::vector<std::string>& LabModel::AccountsOf(const LabComputer& computer) const {
+  return computer.Role == LabRole::Controller ? FindDomain(computer.Domain)->Accounts : computer.Accounts;
+}
+
+std::string LabModel::FindAccount(const LabComputer& computer, const std::string& name) const {
+  const std::size_t backslash = name.find('\\');
+  if (backslash == name.npos) return "";
+  const std::string place = name.substr(0, backslash), wanted = name.substr(backslash + 1);
+  const bool isLocal = computer.Role == LabRole::Member && SameText(place, computer.Name);
+  const LabDomain* domain = isLocal ? nullptr : FindDomain(place);
+  if (!isLocal && (!domain || !Reaches(*FindDomain(computer.Domain), *domain))) return "";
+  const std::vector<std::string>& accounts = isLocal ? computer.Accounts : domain->Accounts;
+  const std::string* found = FindIn(accounts, [&](const std::string& account) { return SameText(account, wanted); });
+  return found ? (isLocal ? computer.Name : domain->Name) + "\\" + *found : "";
+}
+
+bool LabModel::Reaches(const LabDomain& home, const LabDomain& other) const {
+  return &home == &other ||
+         FindIn(home.Trusts, [&](const std::string& trusted) { return FindDomain(trusted) == &other; }) != nullptr;
+}
+
 }  // namespace corvane

@@ -17,6 +17,12 @@ struct LabLog {
   std::string File;
 };
 
+/// A user right and the accounts, as `DOMAIN\Account`, that hold it.
+struct LabRight {
+  std::string Name;
+  std::vector<std::string> Holders;
+};
+
 enum class LabRole { Member, Controller };
 enum class LabState { On, Off, Refusing };
 
@@ -37,6 +43,9 @@ struct LabComputer {
   /// Distinguished name of the unit it stands in (RFC 4514); empty without a directory.
   std::string Unit;
   std::vector<LabLog> Logs;
+  /// Its own accounts; a controller has none beside those of its domain.
+  std::vector<std::string> Accounts;
+  std::vector<LabRight> Rights;
 
   /// The log of that name, or nothing.
   const LabLog* FindLog(const std::string& name) const;
@@ -60,6 +69,7 @@ struct LabDomain {
   /// Distinguished name of the domain itself; empty without a directory.
   std::string Root;
   std::vector<LabUnit> Units;
+  std::vector<std::string> Accounts;
 };
 
 /// A service of the local computer.
@@ -73,6 +83,9 @@ struct LabService {
   int StartMs = 0, StopMs = 0;
   bool RefusesRead = false, RefusesControl = false;
   bool StartsBySystem = false;
+  /// What it logs on as, empty for the system itself, and whether it was given the right password for that.
+  std::string Account;
+  bool LogonIsGood = true;
 
   /// The state at a moment in milliseconds since 1970.
   std::uint32_t StateAt(std::int64_t now) const;
@@ -94,6 +107,15 @@ struct LabModel {
   const LabService* FindService(const std::string& name) const;
   /// The first controller of the domain that is switched on.
   const LabComputer* FindController(const std::string& domain) const;
+  /// The names of the accounts that a computer keeps: its own, or those of its domain for a controller.
+  const std::vector<std::string>& AccountsOf(const LabComputer& computer) const;
+  /// The account `DOMAIN\Account` or `COMPUTER\Account` as the file spells it. Empty for one that the computer does not
+  /// know: it knows its own, those of its domain and those of the domains that this one trusts.
+  std::string FindAccount(const LabComputer& computer, const std::string& name) const;
+
+ private:
+  /// Whether accounts of the one domain may be used in the other.
+  bool Reaches(const LabDomain& home, const LabDomain& other) const;
 };
 
 }  // namespace corvane

@@ -6,6 +6,7 @@
 #include "adapters/lab/LabReader.h"
 #include "platform/Conversions.h"
 #include "platform/RegistryStore.h"
+#include "platform/RuntimeError.h"
 
 namespace corvane {
 
@@ -40,6 +41,14 @@ bool LabNetwork::Change(const std::function<bool(const LabModel&, LabFile&)>& ch
   });
   model_.reset();
   return changed;
+}
+
+bool LabNetwork::Request(const std::function<bool(const LabModel&, LabFile&)>& change) {
+  try {
+    return Change(change);
+  } catch (const RuntimeError&) {
+    return false;
+  }
 }
 
 long LabNetwork::Contact(const std::string& name, LabComputer& computer) {

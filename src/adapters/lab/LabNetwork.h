@@ -35,6 +35,8 @@ class LabNetwork {
   /// Changes the file: `change` gets the present network and edits its text; what it returns is returned. Nothing is
   /// written when that is false. Raises 75 when the file cannot be written.
   bool Change(const std::function<bool(const LabModel&, LabFile&)>& change);
+  /// The same for what one asks of a computer: a file that cannot be written is a request that failed, thus false.
+  bool Request(const std::function<bool(const LabModel&, LabFile&)>& change);
 
   /// Addresses a computer and waits for as long as it takes to answer. Status 0 with the computer, 5 when it refuses,
   /// 53 when it is off or not known.

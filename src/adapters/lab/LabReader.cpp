@@ -27,6 +27,9 @@ struct SystemDraft {
 struct ComputerDraft {
   LabComputer Computer;
   std::string System, Unit;
+  /// What every computer has unless its section says otherwise.
+  std::vector<std::string> Accounts = {"Administrator", "Guest"};
+  bool NamesAccounts = false;
 };
 
 struct DomainDraft {
@@ -138,6 +141,12 @@ bool AddLog(ComputerDraft& draft, const Entry& entry) {
   return true;
 }
 
+bool AddRight(ComputerDraft& draft, const Entry& entry) {
+  if (!SameText(entry.Key.substr(0, 6), "Right ")) return false;
+  draft.Computer.Rights.push_back({Trim(entry.Key.substr(6)), SplitAt(entry.Value, ',')});
+  return true;
+}
+
 class Reader {
  public:
   explicit Reader(const LabFile& file) {
@@ -202,10 +211,12 @@ class Reader {
     RequireNew(Model.Domains, name, section);
     DomainDraft draft;
     draft.Domain.Name = name;
-    Fill<DomainDraft>(draft, section,
-                      {{"Dns", [](DomainDraft& d, const Entry& e) { d.Domain.DnsName = e.Value; }},
-                       {"Trusts", [](DomainDraft& d, const Entry& e) { d.Domain.Trusts = SplitAt(e.Value, ','); }},
-                       {"Units", [](DomainDraft& d, const Entry& e) { d.Units = SplitAt(e.Value, ','); }}});
+    Fill<DomainDraft>(
+        draft, section,
+        {{"Dns", [](DomainDraft& d, const Entry& e) { d.Domain.DnsName = e.Value; }},
+         {"Trusts", [](DomainDraft& d, const Entry& e) { d.Domain.Trusts = SplitAt(e.Value, ','); }},
+         {"Units", [](DomainDraft& d, const Entry& e) { d.Units = SplitAt(e.Value, ','); }},
+         {"Accounts", [](DomainDraft& d, const Entry& e) { d.Domain.Accounts = SplitAt(e.Value, ','); }}});
     if (!draft.Domain.DnsName.empty()) BuildDirectory(draft);
     Model.Domains.push_back(draft.Domain);
   }
@@ -245,8 +256,13 @@ class Reader {
                           [](ComputerDraft& c, const Entry& e) {
                             c.Computer.AnswersPing = ToChoice(e, {"blocked", "answered"}) == 1;
                           }},
-                         {"Unit", [](ComputerDraft& c, const Entry& e) { c.Unit = e.Value; }}},
-                        &AddLog);
+                         {"Unit", [](ComputerDraft& c, const Entry& e) { c.Unit = e.Value; }},
+                         {"Accounts",
+                          [](ComputerDraft& c, const Entry& e) {
+                            c.Accounts = SplitAt(e.Value, ',');
+                            c.NamesAccounts = true;
+                          }}},
+                        [](ComputerDraft& c, const Entry& e) { return AddLog(c, e) || AddRight(c, e); });
     computers_.emplace_back(&section, draft);
   }
 
@@ -261,7 +277,10 @@ class Reader {
     if (computer.Name.empty() || computer.Address.empty()) LabFile::RaiseAt(section.Line, "name or address is missing");
     if (domain->IsWorkgroup && computer.Role == LabRole::Controller)
       LabFile::RaiseAt(section.Line, "a workgroup has no controller");
+    if (computer.Role == LabRole::Controller && draft.NamesAccounts)
+      LabFile::RaiseAt(section.Line, "a controller has no accounts of its own");
     computer.Domain = domain->Name;
+    if (computer.Role == LabRole::Member) computer.Accounts = draft.Accounts;
     computer.Product = system->Product;
     computer.Major = system->Major;
     computer.Minor = system->Minor;
@@ -302,6 +321,11 @@ class Reader {
                       {"Start",
                        [](LabService& s, const Entry& e) {
                          s.StartsBySystem = ToChoice(e, {"manual", "automatic"}) == 1;
+                       }},
+                      {"Account", [](LabService& s, const Entry& e) { s.Account = e.Value; }},
+                      {"Logon",
+                       [](LabService& s, const Entry& e) {
+                         s.LogonIsGood = ToChoice(e, {"bad", "good"}) == 1;
                        }},
                       {"Refuses", [](LabService& s, const Entry& e) {
                          const auto choice = ToChoice(e, {"nothing", "control", "everything"});

@@ -1,7 +1,5 @@
 #include "adapters/lab/LabServiceManager.h"
 
-#include "platform/RuntimeError.h"
-
 namespace corvane {
 
 LabServiceManager::LabServiceManager(LabNetwork& network) : network_(network) {}
@@ -50,6 +48,7 @@ bool LabServiceManager::Pass(ServiceHandle handle, const Passage& passage) {
   return Edit(handle, service::ExecuteAccess, [&](const LabService& service, const Setter& set) {
     const std::int64_t now = network_.Now();
     if (service.StateAt(now) != passage.From) return false;
+    if (passage.From == service::Stopped && !service.LogonIsGood) return false;
     const int takes = service.*passage.Milliseconds;
     set("State", takes > 0 ? passage.Pending : passage.Final);
     set("Until", std::to_string(takes > 0 ? now + takes : 0));
@@ -61,17 +60,12 @@ bool LabServiceManager::Edit(ServiceHandle handle, std::uint32_t access,
                              const std::function<bool(const LabService&, const Setter&)>& edit) {
   const Opened* opened = handles_.Find(handle);
   if (!opened || opened->Service.empty() || (opened->Access & access) == 0) return false;
-  try {
-    return network_.Change([&](const LabModel& model, LabFile& file) {
-      const LabService* found = model.FindService(opened->Service);
-      if (!found) return false;
-      const std::string section = "Service " + found->Name;
-      return edit(*found, [&](const std::string& key, const std::string& value) { file.Set(section, key, value); });
-    });
-  } catch (const RuntimeError&) {
-    // A lab file that cannot be written is a request that failed, as it is with the real manager.
-    return false;
-  }
+  return network_.Request([&](const LabModel& model, LabFile& file) {
+    const LabService* found = model.FindService(opened->Service);
+    if (!found) return false;
+    const std::string section = "Service " + found->Name;
+    return edit(*found, [&](const std::string& key, const std::string& value) { file.Set(section, key, value); });
+  });
 }
 
 }  // namespace corvane

@@ -18,7 +18,7 @@ class LabServiceManager : public ServiceManager {
   ServiceHandle OpenManager(std::uint32_t access) override;
   ServiceHandle OpenService(ServiceHandle manager, const std::string& name, std::uint32_t access) override;
   bool QueryStatus(ServiceHandle handle, std::uint32_t& state) override;
-  /// Fails for a service that is not stopped.
+  /// Fails for a service that is not stopped, and for one whose account was given with a wrong password.
   bool Start(ServiceHandle handle) override;
   /// Knows the stop, which fails for a service that is not running.
   bool Control(ServiceHandle handle, std::uint32_t code) override;
