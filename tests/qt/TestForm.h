@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -7,10 +8,13 @@
 #include <QListWidget>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QTreeView>
 #include <QVBoxLayout>
+
+#include <array>
 
 #include "adapters/qt/FormRegistry.h"
 #include "platform/ui/Commands.h"
@@ -72,6 +76,34 @@ class frmTest : public ui::Form {
   }
 };
 
+/// A form with choices.
+class frmChoices : public ui::Form {
+ public:
+  explicit frmChoices(ui::UiHost& host) : Form(host, "frmChoices") {
+    for (int i : {0, 1}) optSource[static_cast<std::size_t>(i)].Index = i;
+    optSource[0].Caption = "&First";
+    optSource[1].Caption = "&Second";
+    chkAll.Caption = "&All";
+  }
+
+  std::array<ui::OptionButton, 2> optSource{ui::OptionButton{*this, "optSource"}, ui::OptionButton{*this, "optSource"}};
+  ui::CheckBox chkAll{*this, "chkAll"};
+  ui::TextBox txtName{*this, "txtName"};
+
+  static void Place(QWidget& content) {
+    auto* column = new QVBoxLayout(&content);
+    for (const char* name : {"optSource_0", "optSource_1"}) Named(*column, new QRadioButton, name);
+    Named(*column, new QCheckBox, "chkAll");
+    Named(*column, new QLineEdit, "txtName");
+  }
+
+ private:
+  static void Named(QVBoxLayout& column, QWidget* widget, const char* name) {
+    widget->setObjectName(name);
+    column.addWidget(widget);
+  }
+};
+
 /// A form with a menu, so that it becomes a main window.
 class frmMenus : public ui::Form {
  public:
@@ -93,6 +125,7 @@ class frmMenus : public ui::Form {
 inline qt::FormRegistry TestForms() {
   qt::FormRegistry forms;
   forms.Add("frmTest", {frmTest::Place});
+  forms.Add("frmChoices", {frmChoices::Place});
   forms.Add("frmMenus", {frmMenus::Place});
   return forms;
 }

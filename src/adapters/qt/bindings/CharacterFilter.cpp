@@ -6,20 +6,18 @@
 
 namespace corvane::qt {
 
+// What is new ends at the cursor: comparing the texts alone would take a second blank for the first one.
 QValidator::State CharacterFilter::validate(QString& input, int& cursor) const {
-  const QList<uint> before = ToQt(control_.Text).toUcs4();
-  const QList<uint> after = input.toUcs4();
-  const auto [oldEnd, newEnd] = std::mismatch(before.begin(), before.end(), after.begin(), after.end());
-  const auto first = newEnd - after.begin();
-  const auto room = std::min(before.end() - oldEnd, after.end() - newEnd);
-  const auto last = std::mismatch(after.rbegin(), after.rbegin() + room, before.rbegin()).first.base();
-  QString kept = QString::fromUcs4(reinterpret_cast<const char32_t*>(after.constData()), first);
-  for (auto next = after.begin() + first; next != last; ++next)
-    if (control_.KeyPress(*next)) kept += QString::fromUcs4(reinterpret_cast<const char32_t*>(&*next), 1);
-  const qsizetype end = kept.size();
-  kept += QString::fromUcs4(reinterpret_cast<const char32_t*>(&*last), after.end() - last);
-  if (kept.size() != input.size()) cursor = static_cast<int>(std::min<qsizetype>(cursor, end));
-  input = kept;
+  const QString before = ToQt(control_.Text);
+  const QString tail = input.mid(cursor);
+  const qsizetype room = before.endsWith(tail) ? before.size() - tail.size() : 0;
+  const auto limit = std::min<qsizetype>(room, cursor);
+  const auto first = std::mismatch(before.begin(), before.begin() + limit, input.begin()).first - before.begin();
+  QString kept = input.left(first);
+  for (const uint character : input.mid(first, cursor - first).toUcs4())
+    if (control_.KeyPress(character)) kept += QString::fromUcs4(reinterpret_cast<const char32_t*>(&character), 1);
+  cursor = static_cast<int>(kept.size());
+  input = kept + tail;
   return Acceptable;
 }
 

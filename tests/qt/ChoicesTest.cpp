@@ -1,0 +1,156 @@
+#include <QCheckBox>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMenu>
+#include <QRadioButton>
+#include <QToolButton>
+#include <QTreeWidget>
+
+#include "HostFixture.h"
+#include "adapters/qt/ContainerDialog.h"
+#include "platform/RuntimeError.h"
+#include "support/TempFolder.h"
+
+namespace corvane::test {
+
+TEST_F(HostTest, OptionsLeaveEachOtherAndChecksTurn) {
+  frmChoices form(Host);
+  std::string order;
+  for (int i : {0, 1}) form.optSource[static_cast<std::size_t>(i)].Click = [&order, i] { order += std::to_string(i); };
+  form.chkAll.Click = [&] { order += form.chkAll.Value ? "+" : "-"; };
+  form.Show();
+  // Only the circle and the text take a click.
+  const auto click = [&](const ui::Control& control) { WidgetOf<QAbstractButton>(control).click(); };
+  EXPECT_EQ(-1, ui::ChosenOption(form.optSource));
+  click(form.optSource[1]);
+  click(form.optSource[0]);
+  EXPECT_EQ(0, ui::ChosenOption(form.optSource));
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&Host.ViewOf(form)->Window()));
+  Host.SetFocus(form.optSource[0]);
+  QTest::keyClick(&WidgetOf<QRadioButton>(form.optSource[0]), Qt::Key_Down);
+  EXPECT_EQ(1, ui::ChosenOption(form.optSource));
+  click(form.chkAll);
+  click(form.chkAll);
+  EXPECT_EQ("101+-", order);
+  // What the program chooses is shown and fires nothing, and so is that nothing is chosen.
+  for (const int chosen : {0, -1}) {
+    ui::ChooseOption(form.optSource, chosen);
+    form.chkAll.Value = chosen == 0;
+    Host.DoEvents();
+    Serve(20);
+    Host.DoEvents();
+    EXPECT_EQ(chosen == 0, WidgetOf<QRadioButton>(form.optSource[0]).isChecked());
+    EXPECT_FALSE(WidgetOf<QRadioButton>(form.optSource[1]).isChecked());
+    EXPECT_EQ(chosen == 0, WidgetOf<QCheckBox>(form.chkAll).isChecked());
+  }
+  EXPECT_EQ("101+-", order);
+}
+
+TEST_F(HostTest, ABoxRefusesCharactersHoweverTheyCome) {
+  frmChoices form(Host);
+  form.txtName.Text = "a b";
+  std::string asked;
+  form.txtName.KeyPress = [&](char32_t character) {
+    asked += static_cast<char>(character);
+    return character != ' ';
+  };
+  form.Show();
+  auto& line = WidgetOf<QLineEdit>(form.txtName);
+  line.setCursorPosition(1);
+  QTest::keyClicks(&line, "x y");
+  EXPECT_EQ("axy b", form.txtName.Text) << "what stands there stays";
+  EXPECT_EQ("x y", asked);
+  QGuiApplication::clipboard()->setText(QString::fromUtf8("p \xC3\xBC  q"));
+  line.setSelection(1, 2);
+  line.paste();
+  EXPECT_EQ("ap\xC3\xBCq b", form.txtName.Text);
+  EXPECT_EQ(4, line.cursorPosition());
+  line.backspace();
+  EXPECT_EQ("ap\xC3\xBC b", form.txtName.Text);
+  form.txtName.IsPassword = true;
+  frmChoices other(Host);
+  other.txtName.IsPassword = true;
+  other.Show();
+  EXPECT_EQ(QLineEdit::Password, WidgetOf<QLineEdit>(other.txtName).echoMode());
+}
+
+TEST_F(HostTest, AToolbarButtonActsAndItsArrowDropsDown) {
+  frmMenus form(Host);
+  std::string order;
+  form.tbrMain.Buttons = {
+      {"tools", "Tools", "", "add", true, false, {{"First", [&] { order += "first "; }}, {"Second", [&] {
+                                                                                            order += "second ";
+                                                                                          }}}}};
+  form.tbrMain.ButtonClick = [&](const std::string& key) { order += key + " "; };
+  form.Show();
+  auto* button = Host.ViewOf(form)->Window().findChild<QToolButton*>();
+  for (QToolButton* one : Host.ViewOf(form)->Window().findChildren<QToolButton*>())
+    if (one->menu() != nullptr) button = one;
+  ASSERT_NE(nullptr, button->menu());
+  EXPECT_EQ(QToolButton::MenuButtonPopup, button->popupMode());
+  QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
+  button->menu()->actions().at(1)->trigger();
+  EXPECT_EQ("tools second ", order);
+}
+
+TEST_F(HostTest, AFileIsNamedInADialog) {
+  const TempFolder folder;
+  const ui::SaveDialog dialog{"Save It To...", "HTML files (*.htm)", "*.htm", "Report.htm"};
+  const auto answer = [&](auto act) {
+    Soon([act] {
+      auto* chooser = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+      ASSERT_NE(nullptr, chooser);
+      EXPECT_EQ("Save It To...", chooser->windowTitle());
+      EXPECT_TRUE(chooser->selectedFiles().first().endsWith("/Report.htm"));
+      act(*chooser);
+    });
+    return Host.SaveFile(dialog);
+  };
+  EXPECT_EQ(std::nullopt, answer([](QFileDialog& chooser) { chooser.reject(); }));
+  std::string expected = (folder.Path() / "other.htm").string();
+  std::replace(expected.begin(), expected.end(), '/', '\\');
+  EXPECT_EQ(expected, answer([&](QFileDialog& chooser) {
+              chooser.setDirectory(QString::fromStdString(folder.Path().string()));
+              chooser.selectFile("other");
+              QTest::keyClick(&chooser, Qt::Key_Return);
+            }));
+}
+
+TEST_F(HostTest, AContainerIsChosenFromItsTree) {
+  bool broken = true;
+  std::string asked;
+  const ui::ContainersOf containers = [&](const std::string& path) -> std::vector<ui::Container> {
+    asked += path + " ";
+    if (path == "/a" && std::exchange(broken, false)) throw RuntimeError(errors::AutomationError, "No answer");
+    if (path == "/") return {{"A", "/a"}, {"B", "/b"}};
+    return path == "/a" ? std::vector<ui::Container>{{"C", "/a/c"}} : std::vector<ui::Container>{};
+  };
+  const auto choose = [&](auto act) {
+    Soon([act] {
+      auto& dialog = *QApplication::activeModalWidget();
+      act(dialog, *dialog.findChild<QTreeWidget*>());
+    });
+    return Host.ChooseContainer("Corvane", {"Root", "/"}, containers);
+  };
+  const auto chosen = choose([](QWidget& dialog, QTreeWidget& tree) {
+    QTreeWidgetItem* first = tree.topLevelItem(0)->child(0);
+    first->setExpanded(true);
+    EXPECT_EQ("No answer", first->child(0)->text(0));
+    first->setExpanded(false);
+    first->setExpanded(true);
+    QTest::keyClick(&dialog, Qt::Key_Return);
+    EXPECT_TRUE(dialog.isVisible()) << "nothing is chosen yet";
+    tree.setCurrentItem(first->child(0));
+    QTest::keyClick(&dialog, Qt::Key_Return);
+  });
+  ASSERT_TRUE(chosen);
+  EXPECT_EQ("C /a/c", chosen->Name + " " + chosen->Path);
+  EXPECT_EQ("/ /a /a ", asked) << "a branch is read when it is opened";
+  EXPECT_FALSE(choose([](QWidget& dialog, QTreeWidget& tree) {
+    tree.setCurrentItem(tree.topLevelItem(0));
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+  }));
+}
+
+}  // namespace corvane::test
