@@ -17,6 +17,7 @@
 #include "adapters/linux/LinuxPing.h"
 #include "adapters/linux/LinuxSingleInstance.h"
 #include "adapters/linux/LinuxSystem.h"
+#include "adapters/linux/SystemdServiceManager.h"
 #include "adapters/settings/IniFiles.h"
 #include "adapters/settings/RegistryFileStore.h"
 #include "adapters/sqlite/SqliteProvider.h"
@@ -37,10 +38,13 @@ class PlatformChoice {
   int Number(const char* section, const char* key, int fallback) const {
     return profiles_.GetInt(section, key, fallback, File());
   }
-  bool Is(const char* section, const char* key, const char* choice) const {
+  std::string Text(const char* section, const std::string& key, const char* fallback = "") const {
     std::string value;
-    profiles_.GetString(section, key, "", value, 64, File());
-    return SameText(value, choice);
+    profiles_.GetString(section, key, fallback, value, 4096, File());
+    return value;
+  }
+  bool Is(const char* section, const char* key, const char* choice) const {
+    return SameText(Text(section, key), choice);
   }
 
  private:
@@ -65,7 +69,6 @@ struct InstalledPlatform::Adapters {
                  }),
         Machine(Choice.Number("System", "MajorVersion", NewestSystem)),
         LocalSystem(Network, Machine),
-        Services(Network),
         EventLogs(Network),
         LabEvents(Network, folder / Installation::EventLogFolder),
         Net(Network),
@@ -76,6 +79,12 @@ struct InstalledPlatform::Adapters {
       Echo = std::make_unique<LinuxPing>(std::chrono::milliseconds(Choice.Number("Ping", "Timeout", PingTimeout)));
     else
       Echo = std::make_unique<LabPing>(Network);
+    if (Choice.Is("Services", "Source", "systemd"))
+      Services = std::make_unique<SystemdServiceManager>(
+          Choice.Text("Services", "Bus", "system"),
+          [this](const std::string& name) { return Choice.Text("Services", name); });
+    else
+      Services = std::make_unique<LabServiceManager>(Network);
   }
 
   PathMap Paths;
@@ -87,7 +96,7 @@ struct InstalledPlatform::Adapters {
   RegistryFileStore Registry;
   LinuxSystem Machine;
   LabSystem LocalSystem;
-  LabServiceManager Services;
+  std::unique_ptr<ServiceManager> Services;
   LabEventLogs EventLogs;
   LabEventReader LabEvents;
   LabNetX Net;
@@ -102,7 +111,7 @@ InstalledPlatform::InstalledPlatform(const std::filesystem::path& folder, ui::Ui
     : adapters_(std::make_unique<Adapters>(folder)) {
   Adapters& all = *adapters_;
   platform_ = std::make_unique<Platform>(Platform{all.LocalSystem, all.Files, all.Registry, all.Profiles, all.Data,
-                                                  all.Services, all.EventLogs, all.LabEvents, all.Net, all.Directory,
+                                                  *all.Services, all.EventLogs, all.LabEvents, all.Net, all.Directory,
                                                   all.Units, *all.Echo, all.Launcher, all.Instance, host,
                                                   [&all] { return std::make_unique<LabDirectoryApi>(all.Network); },
                                                   [&all] { return std::make_unique<LabChannelReader>(all.Network); }});
