@@ -80,8 +80,10 @@ TEST_F(LabNetworkTest, MistakesInTheFileAreToldWithTheirLine) {
       {"Domain = SHED", "Domain = HUT", "its domain stands nowhere"},
       {"Unit = Servers/Web", "Unit = Web", "its unit stands nowhere"},
       {"System = new", "System = newer", "its system stands nowhere"},
-      {"Trusts = NORTH", "Trusts = WEST", "Line 16 of the lab file: WEST stands nowhere"},
+      {"Trusts = NORTH", "Trusts = WEST", "Line 17 of the lab file: WEST stands nowhere"},
       {"LocalComputer = desk", "LocalComputer = chair", "the local computer stands nowhere"},
+      {"Role = controller\nState = off", "Role = controller\nAccounts = x", "a controller has no accounts of its own"},
+      {"StopMs = 40", "Logon = maybe", "\"maybe\" cannot be Logon"},
       {"Address = 192.0.2.7", "Role = controller\nAddress = 192.0.2.7", "a workgroup has no controller"},
   };
   for (const auto& [old, changed, message] : cases) {

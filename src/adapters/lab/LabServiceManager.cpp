@@ -48,6 +48,7 @@ bool LabServiceManager::Pass(ServiceHandle handle, const Passage& passage) {
   return Edit(handle, service::ExecuteAccess, [&](const LabService& service, const Setter& set) {
     const std::int64_t now = network_.Now();
     if (service.StateAt(now) != passage.From) return false;
+    // A wrong password is found out here and not when it is given.
     if (passage.From == service::Stopped && !service.LogonIsGood) return false;
     const int takes = service.*passage.Milliseconds;
     set("State", takes > 0 ? passage.Pending : passage.Final);
