@@ -19,6 +19,9 @@ class MainWindow {
 
   /// The box of domains; its text is the domain everything is relative to.
   virtual ui::ComboBox& DomainBox() = 0;
+  /// Reads the watched logs of the chosen domain, or the accepted syslog devices, anew.
+  virtual void RefillLogs() = 0;
+  virtual void RefillSyslogs() = 0;
   /// The rows of watched logs as they are shown.
   virtual const ui::ListView& WatchedLogs() const = 0;
   /// Key of the selected watched log; empty when none is selected or its log is unknown.

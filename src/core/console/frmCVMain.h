@@ -57,6 +57,8 @@ class frmCVMain : public ui::Form, public MainWindow {
   /// Refill the list of watched logs of the chosen domain, or that of the accepted syslog devices.
   void RefillLogs(bool descending);
   void RefillSyslogs(bool descending);
+  void RefillLogs() override { RefillLogs(false); }
+  void RefillSyslogs() override { RefillSyslogs(false); }
   /// Brings the logs to the front and sets the commands accordingly.
   void InitActiveTab();
   /// Shows a service in its panel of the status bar, 1 the monitoring service, 2 the bridge.
