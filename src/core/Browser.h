@@ -7,6 +7,7 @@ namespace corvane {
 class modMain;
 
 /// The vendor's pages that screens link to.
+inline constexpr const char* VendorSite = "https://www.tarnwick.example";
 inline constexpr const char* SupportPage = "https://www.tarnwick.example/corvane/support";
 
 /// Command line of the default browser, as the system has it registered; empty when there is none.
