@@ -71,7 +71,8 @@ void Installation::Fill(const fs::path& folder, Kind kind) const {
   MakeDatabase(folder);
   CopyFile(PlatformFile, folder);
   CopyFile(LabFile, folder);
-  CopyHelp(folder);
+  CopyFolder(EventLogFolder, folder);
+  CopyFolder(HelpFolder, folder);
   CopyProgram(folder);
   for (const char* name : {RegistryFolder, RapidConfigFolder, AgentConfigFolder}) fs::create_directory(folder / name);
   MakeRegistries(folder, *LabNetwork(folder / LabFile).Model(), kind);
@@ -113,10 +114,10 @@ void Installation::CopyProgram(const fs::path& folder) const {
   if (!program_.empty() && fs::exists(program_)) fs::copy_file(program_, folder / ProgramFile);
 }
 
-void Installation::CopyHelp(const fs::path& folder) const {
+void Installation::CopyFolder(const char* name, const fs::path& folder) const {
   std::error_code error;
-  fs::copy(data_ / HelpFolder, folder / HelpFolder, fs::copy_options::recursive, error);
-  if (error) throw InstallationError((data_ / HelpFolder).string() + " cannot be copied: " + error.message());
+  fs::copy(data_ / name, folder / name, fs::copy_options::recursive, error);
+  if (error) throw InstallationError((data_ / name).string() + " cannot be copied: " + error.message());
 }
 
 }  // namespace corvane

@@ -26,7 +26,7 @@ class Installation {
   static constexpr const char* AgentConfigFolder = "AgentConfigs";
   static constexpr const char* HelpFolder = "help";
 
-  /// `data` is the folder with the shipped schema, catalogue, settings, lab network and help pages.
+  /// `data` is the folder with the shipped schema, catalogue, settings, lab network, event logs and help pages.
   /// `program` is the console to put there, since it works on the installation that it lies in; without one the
   /// installation has none.
   explicit Installation(std::filesystem::path data, std::filesystem::path program = {});
@@ -41,7 +41,7 @@ class Installation {
   void MakeRegistries(const std::filesystem::path& folder, const LabModel& lab, Kind kind) const;
   void CopyProgram(const std::filesystem::path& folder) const;
   void CopyFile(const char* name, const std::filesystem::path& folder) const;
-  void CopyHelp(const std::filesystem::path& folder) const;
+  void CopyFolder(const char* name, const std::filesystem::path& folder) const;
 
   std::filesystem::path data_;
   std::filesystem::path program_;
