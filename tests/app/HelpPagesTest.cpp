@@ -3,6 +3,7 @@
 #include "app/installation/TextFile.h"
 #include "core/console/frmBegin.h"
 #include "core/console/frmCVMain.h"
+#include "core/console/frmLogView.h"
 #include "logs/frmLogEdit.h"
 #include "support/TestConsole.h"
 
@@ -16,7 +17,8 @@ TEST(HelpPagesTest, EveryScreenHasItsPage) {
   console.Start();
   const frmBegin begin(console.App.State());
   const frmLogEdit editor(console.App.State());
-  for (const ui::Form* form : std::initializer_list<const ui::Form*>{&begin, &console.Window(), &editor})
+  const frmLogView events(console.App.State());
+  for (const ui::Form* form : std::initializer_list<const ui::Form*>{&begin, &console.Window(), &editor, &events})
     EXPECT_TRUE(fs::exists(console.Folder() / "help" / (std::to_string(form->HelpContext) + ".html"))) << form->Name();
 }
 

@@ -18,6 +18,7 @@
 #include "app/installation/Installation.h"
 #include "core/console/Console.h"
 #include "core/console/frmBegin.h"
+#include "core/console/frmLogView.h"
 #include "core/console/frmStartup.h"
 #include "logs/frmLogEdit.h"
 #include "support/TempFolder.h"
@@ -68,12 +69,13 @@ void FormsTest::ForEachForm(const std::function<void(ui::Form&)>& visit) {
   frmBegin begin(State());
   frmStartup splash(State()), about(State());
   frmLogEdit editor(State());
+  frmLogView events(State());
   State().IsNewLog = true;
-  for (ui::Form* form : std::initializer_list<ui::Form*>{&Main(), &begin, &splash, &about, &editor}) {
+  for (ui::Form* form : std::initializer_list<ui::Form*>{&Main(), &begin, &splash, &about, &editor, &events}) {
     form->Load();
     if (form == &about) about.SetAbout(true);
     if (form != &Main()) form->Show();
-    QTest::qWait(form == &editor ? 400 : 20);
+    QTest::qWait(form == &editor || form == &events ? 400 : 20);
     visit(*form);
   }
 }

@@ -4,6 +4,7 @@
 #include "ui_frmBegin.h"
 #include "ui_frmCVMain.h"
 #include "ui_frmLogEdit.h"
+#include "ui_frmLogView.h"
 #include "ui_frmStartup.h"
 
 namespace corvane::qt {
@@ -21,6 +22,7 @@ FormRegistry FormRegistry::Console() {
   forms.Add("frmBegin", {Place<Ui::frmBegin>});
   forms.Add("frmCVMain", {Place<Ui::frmCVMain>});
   forms.Add("frmLogEdit", {Place<Ui::frmLogEdit>});
+  forms.Add("frmLogView", {Place<Ui::frmLogView>});
   forms.Add("frmStartup", {Place<Ui::frmStartup>, WindowFrame::None});
   return forms;
 }
