@@ -17,13 +17,22 @@ class DirectoryProvider {
   virtual long UserFlags(const std::string& path) = 0;
 };
 
-/// Queries in the directory search language `<path>;(filter);attributes;scope`.
+/// An organizational unit or container of a directory, told by the path that binds to it.
+struct DirectoryContainer {
+  std::string Name;
+  std::string Path;
+};
+
+/// Queries in the directory search language `<path>;(filter);attributes;scope`, and the containers that a path of such
+/// a query may name. `LDAP://` and the name of a domain is the top of its directory.
 class UnitQuery {
  public:
   virtual ~UnitQuery() = default;
 
   /// The wanted attribute of every object found, in the directory's order. Raises when the path cannot be searched.
   virtual std::vector<std::string> Search(const std::string& commandText) = 0;
+  /// The containers directly within that of a path, in the directory's order. Raises when the path cannot be bound.
+  virtual std::vector<DirectoryContainer> Containers(const std::string& path) = 0;
 };
 
 }  // namespace corvane

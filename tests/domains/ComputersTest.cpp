@@ -33,6 +33,7 @@ class ToldDirectory : public DirectoryProvider, public UnitQuery {
     Asked += commandText;
     return Found(Unit);
   }
+  std::vector<DirectoryContainer> Containers(const std::string&) override { return {}; }
 
   std::vector<std::pair<std::string, long>> Accounts;
   Names Unit;

@@ -130,6 +130,10 @@ TEST_F(LabPortsTest, UnitsAreSearchedByPathAndScope) {
       {"<LDAP://SDC/DC=north,DC=example" + tail, "There is no such object on the server."},
       {"<LDAP://DC0/DC=north,DC=example" + tail, "The network path was not found."},
       {"<LDAP://DC=east,DC=example" + tail, "Access is denied."},
+      {"<LDAP://north.example" + tail, "DC0 DC1 DESK WEB "},
+      {"<LDAP://DC1" + tail, "DC0 DC1 DESK WEB "},
+      {"<LDAP://SHED" + tail, "There is no such object on the server."},
+      {"<LDAP://" + tail, "There is no such object on the server."},
       {"<WinNT://NORTH" + tail, "The search query is not understood."},
       {"<LDAP://DC=north,DC=example>;(objectClass=user);name;subtree", "The search query is not understood."},
       {"", "The search query is not understood."},
@@ -141,6 +145,31 @@ TEST_F(LabPortsTest, UnitsAreSearchedByPathAndScope) {
     for (const std::string& name : found) told += name + " ";
     EXPECT_EQ(told, c.second) << c.first;
     EXPECT_EQ(error, told.ends_with('.') ? errors::AutomationError : 0) << c.first;
+  }
+}
+
+TEST_F(LabPortsTest, ContainersAreListedLevelByLevel) {
+  LabUnitQuery query(Network);
+  const std::pair<std::string, std::string> cases[] = {
+      {"LDAP://NORTH",
+       "Computers=LDAP://CN=Computers,DC=north,DC=example "
+       "Domain Controllers=LDAP://OU=Domain Controllers,DC=north,DC=example "
+       "Servers=LDAP://OU=Servers,DC=north,DC=example "},
+      {"ldap://ou=servers,dc=north,dc=example", "Web=LDAP://OU=Web,OU=Servers,DC=north,DC=example "},
+      {"LDAP://DC1/OU=Servers,DC=north,DC=example", "Web=LDAP://DC1/OU=Web,OU=Servers,DC=north,DC=example "},
+      {"LDAP://OU=Web,OU=Servers,DC=north,DC=example", ""},
+      {"LDAP://SOUTH", "There is no such object on the server."},
+      {"LDAP://EAST", "Access is denied."},
+      {"WinNT://NORTH", "The search query is not understood."},
+  };
+  for (const auto& [path, expected] : cases) {
+    std::string told;
+    ErrorOf(
+        [&] {
+          for (const auto& one : query.Containers(path)) told += one.Name + "=" + one.Path + " ";
+        },
+        &told);
+    EXPECT_EQ(told, expected) << path;
   }
 }
 

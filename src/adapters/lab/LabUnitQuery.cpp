@@ -7,8 +7,10 @@
 namespace corvane {
 namespace {
 
+constexpr std::string_view Scheme = "LDAP://";
+
 struct Query {
-  std::string Server, Unit;
+  std::string Path;
   bool Subtree = true;
 };
 
@@ -18,19 +20,10 @@ bool EndsWith(const std::string& text, const std::string& end) {
   return text.size() >= end.size() && SameText(std::string_view(text).substr(text.size() - end.size()), end);
 }
 
-Query ParsePath(const std::string& path) {
-  constexpr std::string_view Scheme = "LDAP://";
-  if (!SameText(path.substr(0, Scheme.size()), Scheme)) RaiseSyntax();
-  const std::string rest = path.substr(Scheme.size());
-  const std::size_t slash = rest.find('/');
-  if (slash == rest.npos) return {"", rest};
-  return {rest.substr(0, slash), rest.substr(slash + 1)};
-}
-
-Query Parse(const std::string& text) {
+Query ParseQuery(const std::string& text) {
   const std::size_t end = text.find(">;");
   if (text.empty() || text.front() != '<' || end == text.npos) RaiseSyntax();
-  Query query = ParsePath(text.substr(1, end - 1));
+  Query query{text.substr(1, end - 1)};
   const std::string rest = text.substr(end + 2);
   query.Subtree = SameText(rest, "(objectClass=computer);name;subtree");
   if (!query.Subtree && !SameText(rest, "(objectClass=computer);name;onelevel")) RaiseSyntax();
@@ -51,26 +44,53 @@ const LabDomain* DomainOfUnit(const LabModel& model, const std::string& unit) {
 
 LabUnitQuery::LabUnitQuery(LabNetwork& network) : network_(network) {}
 
-void LabUnitQuery::RequireUnit(const LabModel& model, const std::string& server, const std::string& unit) {
-  const LabDomain* domain = DomainOfUnit(model, unit);
+LabUnitQuery::Place LabUnitQuery::Parse(const LabModel& model, const std::string& path) {
+  if (!SameText(path.substr(0, Scheme.size()), Scheme)) RaiseSyntax();
+  const std::string rest = path.substr(Scheme.size());
+  const std::size_t slash = rest.find('/');
+  if (slash != rest.npos) return {rest.substr(0, slash), rest.substr(slash + 1)};
+  if (rest.find('=') != rest.npos) return {"", rest};
+  if (const LabDomain* domain = model.FindDomain(rest)) return {"", domain->Root};
+  const LabComputer* server = rest.empty() ? nullptr : model.FindComputer(rest);
+  return {rest, server ? model.FindDomain(server->Domain)->Root : ""};
+}
+
+const LabDomain& LabUnitQuery::RequireUnit(const LabModel& model, const Place& place) {
+  const LabDomain* domain = DomainOfUnit(model, place.Unit);
   if (!domain) RaiseNoObject();
-  const LabComputer* controller = server.empty() ? model.FindController(domain->Name) : model.FindComputer(server);
+  const LabComputer* controller =
+      place.Server.empty() ? model.FindController(domain->Name) : model.FindComputer(place.Server);
   LabComputer answering;
   // A name that stands nowhere is asked for all the same: it takes its time to stay without an answer.
   RaiseUnlessOk(network_.Contact(controller ? controller->Name : "no controller", answering));
   if (answering.Domain != domain->Name || answering.Role != LabRole::Controller) RaiseNoObject();
+  return *domain;
 }
 
 std::vector<std::string> LabUnitQuery::Search(const std::string& commandText) {
-  const Query query = Parse(commandText);
+  const Query query = ParseQuery(commandText);
   const auto model = network_.Model();
-  RequireUnit(*model, query.Server, query.Unit);
+  const Place place = Parse(*model, query.Path);
+  RequireUnit(*model, place);
   std::vector<std::string> names;
   for (const LabComputer& computer : model->Computers) {
-    const bool direct = SameText(computer.Unit, query.Unit);
-    if (direct || (query.Subtree && EndsWith(computer.Unit, "," + query.Unit))) names.push_back(computer.Name);
+    const bool direct = SameText(computer.Unit, place.Unit);
+    if (direct || (query.Subtree && EndsWith(computer.Unit, "," + place.Unit))) names.push_back(computer.Name);
   }
   return names;
+}
+
+std::vector<DirectoryContainer> LabUnitQuery::Containers(const std::string& path) {
+  const auto model = network_.Model();
+  const Place place = Parse(*model, path);
+  const std::string start = std::string(Scheme) + place.Server + (place.Server.empty() ? "" : "/");
+  std::vector<DirectoryContainer> containers;
+  for (const LabUnit& unit : RequireUnit(*model, place).Units) {
+    const std::string above = unit.DistinguishedName.substr(unit.DistinguishedName.find(',') + 1);
+    if (SameText(above, place.Unit))
+      containers.push_back({unit.Path.substr(unit.Path.rfind('/') + 1), start + unit.DistinguishedName});
+  }
+  return containers;
 }
 
 }  // namespace corvane
