@@ -11,6 +11,8 @@
 namespace corvane {
 namespace {
 
+std::string MappingKey(int number) { return "Computer" + std::to_string(number); }
+
 std::string MappingFile(modMain& main) { return main.Platform.System.ProgramFolder() + "\\cdomain.ini"; }
 
 PrivateProfile OpenMappings(modMain& main) {
@@ -23,24 +25,6 @@ PrivateProfile OpenMappings(modMain& main) {
     profile.WriteString("General", "NumComputers", "0");
   }
   return profile;
-}
-
-// Calls `visit(computer, domain)` for each mapping of the file; a missing or malformed line is passed over.
-void ForEachMapping(modMain& main, const std::function<void(const std::string&, const std::string&)>& visit) {
-  PrivateProfile profile = OpenMappings(main);
-  int count = 0;
-  profile.GetIntValue("General", "NumComputers", count);
-  // A garbled count must not hold the console: a file has fewer mappings than bytes.
-  std::uintmax_t bytes = 0;
-  PassOver([&] { bytes = main.Platform.Files.Length(profile.FileName); });
-  for (int i = 1; i <= count && static_cast<std::uintmax_t>(i) <= bytes; ++i) {
-    std::string line;
-    if (!profile.GetStringValue("Computers", "Computer" + std::to_string(i), line)) continue;
-    const std::size_t bar = line.find('|');
-    if (bar == std::string::npos) continue;
-    const std::string behind = line.substr(bar + 1);
-    visit(line.substr(0, bar), behind.substr(0, behind.find('|')));
-  }
 }
 
 void RemoveCustomEntries(ui::ComboBox& box) {
@@ -63,17 +47,47 @@ void LoadCustomDomains(modMain& main, ui::ComboBox& box) {
   box.Enabled = false;
   RemoveCustomEntries(box);
   box.Enabled = enabled;
-  ForEachMapping(main, [&](const std::string&, const std::string& domain) {
-    const std::string entry = std::string(CustomPrefix) + UpperCase(domain);
+  for (const CustomMapping& mapping : LoadCustomMappings(main)) {
+    const std::string entry = std::string(CustomPrefix) + UpperCase(mapping.Domain);
     if (!Holds(box, entry)) box.AddItem(entry);
-  });
+  }
 }
 
 void LoadCustomDomainComputers(modMain& main, std::string_view domain, ui::ComboBox& box) {
   const std::string wanted(IsCustomDomain(domain) ? domain.substr(CustomPrefix.size()) : domain);
-  ForEachMapping(main, [&](const std::string& computer, const std::string& mapped) {
-    if (SameText(mapped, wanted)) box.AddItem(UpperCase(computer));
-  });
+  for (const CustomMapping& mapping : LoadCustomMappings(main))
+    if (SameText(mapping.Domain, wanted)) box.AddItem(UpperCase(mapping.Computer));
+}
+
+// A line that is missing or has no bar is passed over.
+std::vector<CustomMapping> LoadCustomMappings(modMain& main) {
+  PrivateProfile profile = OpenMappings(main);
+  int count = 0;
+  profile.GetIntValue("General", "NumComputers", count);
+  // A garbled count must not hold the console: a file has fewer mappings than bytes.
+  std::uintmax_t bytes = 0;
+  PassOver([&] { bytes = main.Platform.Files.Length(profile.FileName); });
+  std::vector<CustomMapping> mappings;
+  for (int i = 1; i <= count && static_cast<std::uintmax_t>(i) <= bytes; ++i) {
+    std::string line;
+    if (!profile.GetStringValue("Computers", MappingKey(i), line)) continue;
+    const std::size_t bar = line.find('|');
+    if (bar == std::string::npos) continue;
+    const std::string behind = line.substr(bar + 1);
+    mappings.push_back({line.substr(0, bar), behind.substr(0, behind.find('|'))});
+  }
+  return mappings;
+}
+
+// The count comes last, so that it never covers a line that is not there.
+void SaveCustomMappings(modMain& main, const std::vector<CustomMapping>& mappings) {
+  const PrivateProfile profile = OpenMappings(main);
+  int number = 0;
+  for (const CustomMapping& mapping : mappings)
+    if (!profile.WriteString("Computers", MappingKey(++number),
+                             UpperCase(mapping.Computer) + "|" + UpperCase(mapping.Domain)))
+      return;
+  profile.WriteString("General", "NumComputers", std::to_string(number));
 }
 
 }  // namespace corvane

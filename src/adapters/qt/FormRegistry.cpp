@@ -3,6 +3,9 @@
 #include "platform/RuntimeError.h"
 #include "ui_frmBegin.h"
 #include "ui_frmCVMain.h"
+#include "ui_frmComputerEnum.h"
+#include "ui_frmCustomDomainManager.h"
+#include "ui_frmDomainChooser.h"
 #include "ui_frmLogEdit.h"
 #include "ui_frmLogView.h"
 #include "ui_frmStartup.h"
@@ -21,6 +24,9 @@ FormRegistry FormRegistry::Console() {
   FormRegistry forms;
   forms.Add("frmBegin", {Place<Ui::frmBegin>});
   forms.Add("frmCVMain", {Place<Ui::frmCVMain>});
+  forms.Add("frmComputerEnum", {Place<Ui::frmComputerEnum>});
+  forms.Add("frmCustomDomainManager", {Place<Ui::frmCustomDomainManager>});
+  forms.Add("frmDomainChooser", {Place<Ui::frmDomainChooser>});
   forms.Add("frmLogEdit", {Place<Ui::frmLogEdit>});
   forms.Add("frmLogView", {Place<Ui::frmLogView>});
   forms.Add("frmStartup", {Place<Ui::frmStartup>, WindowFrame::None});
