@@ -20,6 +20,10 @@
 #include "core/console/frmBegin.h"
 #include "core/console/frmLogView.h"
 #include "core/console/frmStartup.h"
+#include "domains/CustomDomains.h"
+#include "domains/frmComputerEnum.h"
+#include "domains/frmCustomDomainManager.h"
+#include "domains/frmDomainChooser.h"
 #include "logs/frmLogEdit.h"
 #include "support/TempFolder.h"
 
@@ -70,8 +74,13 @@ void FormsTest::ForEachForm(const std::function<void(ui::Form&)>& visit) {
   frmStartup splash(State()), about(State());
   frmLogEdit editor(State());
   frmLogView events(State());
+  frmDomainChooser domain(State());
+  frmComputerEnum computers(State());
+  frmCustomDomainManager mappings(State());
+  SaveCustomMappings(State(), {{"192.0.2.77", "BRANCH"}, {"KIOSK1", "LOBBY"}, {"SCANNER2", "BRANCH"}});
   State().IsNewLog = true;
-  for (ui::Form* form : std::initializer_list<ui::Form*>{&Main(), &begin, &splash, &about, &editor, &events}) {
+  for (ui::Form* form : std::initializer_list<ui::Form*>{&Main(), &begin, &splash, &about, &editor, &events, &domain,
+                                                         &computers, &mappings}) {
     form->Load();
     if (form == &about) about.SetAbout(true);
     if (form != &Main()) form->Show();
