@@ -1,0 +1,240 @@
+#include "core/console/frmLogView.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "app/installation/TextFile.h"
+#include "core/console/EventDate.h"
+#include "core/console/LogReport.h"
+#include "platform/EventReader.h"
+#include "support/TestConsole.h"
+
+namespace corvane::test {
+namespace {
+
+using namespace std::string_literals;
+
+constexpr const char* Target = "C:\\Corvane\\report.htm";
+
+std::string Repeat(int count, const std::string& text) {
+  std::string all;
+  while (count-- > 0) all += text;
+  return all;
+}
+
+// One record of each type and some of others, the newest last.
+const std::string Mixed =
+    "Sun Nov  1 08:00:00 2026\tInformation\tBackup Agent\tNot ours\n"
+    "Mon Nov  2 08:00:00 2026\tFailure Audit\tCorvane Service\tRefused\n"
+    "Mon Nov  2 08:00:01 2026\tSuccess Audit\tCorvane Service\tGranted\n"
+    "Tue Nov  3 12:30:00 2026\twarning\tCorvane Service\tIt's \"slow\" today  \n"
+    "Wed Nov  4 23:59:59 2026\tERROR\t  corvane service \tThe insert failed:\\n<script "
+    "src=\"//x.example/a.js\"></script> &amp;\n"
+    "Thu Nov  5 09:00:01 2026\tInformation\tCorvane Service\tJörg <> Müller\n"
+    "Thu Nov  5 09:00:02 2026\tError\tCorvane Service 2\tNot ours either\n";
+
+class LogViewTest : public testing::Test {
+ protected:
+  void SetLog(const std::string& text) { WriteTextFile(Log, text); }
+  /// Opens the viewer; the script acts when the log has been read.
+  void View(const std::function<void(frmLogView&)>& script) {
+    Host.OnModal<frmLogView>("frmLogView", [&](frmLogView& form) {
+      Host.Pass(249);
+      EXPECT_EQ(form.lvEvents.Count(), 0);
+      Host.Pass(250);
+      script(form);
+      form.CloseBox();
+    });
+    frmLogView(Console.App.State()).ShowModal();
+    EventRecord record;
+    EXPECT_FALSE(Console.Ports.EventReader.ReadNext(record)) << "the log was left open";
+  }
+  void Export(frmLogView& form, const std::optional<std::string>& path) {
+    Host.OnSaveFile(path);
+    Host.Click(form.cmdExport);
+    EXPECT_TRUE(form.IsUnloaded() || form.cmdExport.Enabled);
+  }
+  /// Whether every control that the user acts on is enabled or not; Close always is.
+  static bool AllEnabled(const frmLogView& form, bool on) {
+    const auto& all = form.Controls();
+    return std::all_of(all.begin(), all.end(), [&](const ui::Control* control) {
+      const bool passive = control->Kind() == ui::ControlKind::Frame || control->Kind() == ui::ControlKind::Timer;
+      return passive || control->Enabled == (on || control == &form.cmdClose);
+    });
+  }
+
+  TestConsole Console;
+  ScriptedHost& Host = Console.Host;
+  const std::filesystem::path Log = Console.Folder() / "eventlog" / "Application.log";
+  const std::filesystem::path Report = Console.Folder() / "report.htm";
+};
+
+TEST_F(LogViewTest, TheBoxesChooseWhatIsListed) {
+  SetLog(Mixed);
+  View([&](frmLogView& form) {
+    EXPECT_EQ(form.fraEvents.Caption, "&Event Log Entries Logged By the Corvane Service Since 11/1/2026 08:00:00");
+    EXPECT_EQ(form.lvEvents.SelectedRow(), 0);
+    for (int boxes = 8; boxes-- > 0;) {
+      std::string expected, listed;
+      const char* rows[] = {"11/5/2026 09:00:01 info,", "11/4/2026 23:59:59 error,", "11/3/2026 12:30:00 warning,"};
+      for (const int box : {0, 2, 1}) {
+        if (form.chkEventsToShow[box].Value != ((boxes >> box & 1) != 0)) Host.Click(form.chkEventsToShow[box]);
+        if (form.chkEventsToShow[box].Value) expected += rows[box == 0 ? 0 : 3 - box];
+      }
+      for (const ui::ListItem& item : form.lvEvents.Items()) listed += item.Text + " " + item.Icon + ",";
+      EXPECT_EQ(listed, expected) << boxes;
+      EXPECT_EQ(form.txtDescription.Text, boxes == 7 ? "Jörg \r\n Müller" : "");
+    }
+    Host.OnBox("Events must be present in order to prepare an HTML report.");
+    Host.Click(form.cmdExport);
+  });
+}
+
+TEST_F(LogViewTest, LinesStandInOneCellAndComeBack) {
+  SetLog(Mixed);
+  View([&](frmLogView& form) {
+    const std::string lines = "The insert failed:\r\n<script src=\"//x.example/a.js\"></script> &amp;";
+    Host.SelectOnly(form.lvEvents, 1);
+    EXPECT_EQ(form.lvEvents.Item(1).Cell(1), "The insert failed:<><script src=\"//x.example/a.js\"></script> &amp;");
+    EXPECT_EQ(form.txtDescription.Text, lines);
+    Host.Click(form.cmdClipboard);
+    EXPECT_EQ(Host.Clipboard, "Type Of Event: Error\r\nDate and Time: 11/4/2026 23:59:59\r\nDescription: " + lines);
+    form.lvEvents.SelectNone();
+    Host.Clipboard = "kept";
+    Host.Click(form.cmdClipboard);
+    EXPECT_EQ(Host.Clipboard, "kept");
+  });
+}
+
+TEST_F(LogViewTest, ALogThatCannotBeOpenedLeavesTheListEmpty) {
+  const auto refuse = [&] {
+    Host.OnBox("Corvane could not open the local application log to view events recorded by the Corvane Service.");
+  };
+  std::filesystem::remove(Log);
+  refuse();
+  View([&](frmLogView& form) {
+    const auto refreshed = [&] {
+      Host.Click(form.cmdRefresh);
+      EXPECT_TRUE(AllEnabled(form, true));
+      return form.lvEvents.Count();
+    };
+    SetLog(Mixed);
+    EXPECT_EQ(refreshed(), 3);
+    std::filesystem::remove(Log);
+    refuse();
+    EXPECT_EQ(refreshed(), 0);
+    SetLog("");
+    EXPECT_EQ(refreshed(), 0);
+    SetLog("no record\n" + Mixed);
+    EXPECT_EQ(refreshed(), 3);
+  });
+}
+
+TEST_F(LogViewTest, RefreshingAtOnceReadsOnlyOnce) {
+  SetLog(Mixed);
+  Host.OnModal<frmLogView>("frmLogView", [&](frmLogView& form) {
+    Host.Click(form.cmdRefresh);
+    std::filesystem::remove(Log);
+    Host.Pass(1000);
+    EXPECT_EQ(form.lvEvents.Count(), 3);
+    Host.Click(form.cmdClose);
+  });
+  frmLogView(Console.App.State()).ShowModal();
+}
+
+TEST_F(LogViewTest, NoEventIsLostAsTheyBecomeMore) {
+  std::string log;
+  for (int i = 4500; i > 0; --i) log += "Thu Nov  5 09:00:01 2026\tError\tCorvane Service\t" + std::to_string(i) + "\n";
+  SetLog(log);
+  View([&](frmLogView& form) {
+    ASSERT_EQ(form.lvEvents.Count(), 4500);
+    for (int i = 0; i < 4500; ++i) ASSERT_EQ(form.lvEvents.Item(i).Cell(1), std::to_string(i + 1));
+  });
+}
+
+TEST_F(LogViewTest, TheViewerMayBeClosedWhileItWorks) {
+  SetLog(Repeat(1000, Mixed));
+  const auto close = [&] {
+    Host.OnDoEvents([&] {
+      const auto& form = dynamic_cast<const frmLogView&>(Host.Top());
+      EXPECT_TRUE(AllEnabled(form, false) && form.MousePointer == ui::Pointer::Hourglass);
+      Host.Top().CloseBox();
+    });
+  };
+  close();
+  View([&](frmLogView& form) { EXPECT_TRUE(form.IsUnloaded() && form.lvEvents.Count() == 0); });
+  EXPECT_EQ(Host.EventsServed, 1);
+  View([&](frmLogView& form) {
+    close();
+    Export(form, Target);
+    EXPECT_TRUE(form.IsUnloaded());
+  });
+  EXPECT_FALSE(std::filesystem::exists(Report));
+}
+
+TEST_F(LogViewTest, TheReportIsRightToTheByte) {
+  std::string golden;
+  for (const char c : ReadTextFile(CORVANE_SOURCE_DIR "/tests/console/report.htm"))
+    golden += c == '\n' ? "\r\n" : std::string(1, c);
+  const std::size_t first = golden.find("<TR BGCOLOR=#C0C0C0>"), footer = golden.rfind("</TABLE>");
+  for (const int times : {1, 3334}) {
+    SetLog(Repeat(times, Mixed));
+    View([&](frmLogView& form) {
+      Export(form, std::nullopt);
+      Export(form, "C:\\Corvane\\none\\report.htm");
+      EXPECT_FALSE(std::filesystem::exists(Report));
+      Export(form, Target);
+      EXPECT_EQ(form.lvEvents.Count(), 3 * times);
+    });
+    EXPECT_EQ(ReadTextFile(Report),
+              golden.substr(0, first) + Repeat(times, golden.substr(first, footer - first)) + golden.substr(footer));
+    std::filesystem::remove(Report);
+  }
+  const ui::SaveDialog& asked = Host.SaveDialogs.front();
+  EXPECT_EQ(asked.Title + "|" + asked.Filter + "|" + asked.Pattern + "|" + asked.FileName,
+            "Save Corvane Service Log Records To...|HTML files (*.htm)|*.htm|Corvane_Service_Log_Entries.htm");
+}
+
+TEST_F(LogViewTest, TheShippedLogIsReadToItsBeginning) {
+  const std::string text = ReadTextFile(Log);
+  EventReader& reader = Console.Ports.EventReader;
+  ASSERT_TRUE(reader.Open("", EventReader::ApplicationLog));
+  EventRecord record;
+  for (auto left = std::count(text.begin(), text.end(), '\n'); left > 0; --left) {
+    ASSERT_TRUE(reader.ReadNext(record)) << "line " << left;
+    EXPECT_NE(FixDate(record.Time), "") << record.Time;
+  }
+  EXPECT_FALSE(reader.ReadNext(record));
+}
+
+TEST(EventDateTest, ATimeIsReadInItsColumns) {
+  const std::pair<const char*, const char*> cases[] = {{"Mon Nov 16 14:05:09 2026", "11/16/2026 14:05:09"},
+                                                       {"Sun Mar  1 04:05:09 2026", "3/1/2026 04:05:09"},
+                                                       {"Fri dec 31 23:59:59 1999\n", "12/31/1999 23:59:59"},
+                                                       {"Sat Feb 29 24:00:00 2025", "3/2/2025 00:00:00"},
+                                                       {"", ""},
+                                                       {"Mon Nov 16 14:05:09 202", ""},
+                                                       {"Mon Nox 16 14:05:09 2026", ""},
+                                                       {"Mon anF 16 14:05:09 2026", ""},
+                                                       {"Mon Nov -6 14:05:09 2026", ""},
+                                                       {"Mon Nov    14:05:09 2026", ""},
+                                                       {"Mon Nov 16 14:0x:09 2026", ""}};
+  for (const auto& [text, fixed] : cases) EXPECT_EQ(FixDate(text), fixed) << text;
+}
+
+TEST(LogReportTest, EveryTypeHasItsColour) {
+  const std::pair<const char*, const char*> cases[] = {{"INFORMATION", "blue"},
+                                                       {"WARNING", "yellow"},
+                                                       {"ERROR", "red"},
+                                                       {"SUCCESS AUDIT", "green"},
+                                                       {"FAILURE AUDIT", "red"}};
+  for (const auto& [type, colour] : cases) {
+    std::string row;
+    CreateNextHTMLRecord(row, {"", type, ""});
+    EXPECT_NE(row.find(" COLOR='"s + colour + "'><STRONG>" + type + "</STRONG></FONT></TD>\r\n"), row.npos) << row;
+  }
+}
+
+}  // namespace
+}  // namespace corvane::test

@@ -1,0 +1,70 @@
+#include <fstream>
+
+#include "adapters/lab/LabEventReader.h"
+#include "lab/LabFixture.h"
+
+namespace corvane {
+namespace {
+
+class LabEventsTest : public test::LabFixture {
+ protected:
+  /// Everything that is read from a log of this text, each record closed by "|".
+  std::string Read(const std::string& text) {
+    Folder.Write("Application.log", text);
+    EventRecord record;
+    std::string all;
+    EXPECT_TRUE(Reader.Open("", EventReader::ApplicationLog));
+    while (Reader.ReadNext(record))
+      all += record.Time + "," + record.Type + "," + record.Source + "," + record.Description + "|";
+    EXPECT_FALSE(Reader.ReadNext(record));
+    return all;
+  }
+
+  LabEventReader Reader{Network, Folder.Path()};
+};
+
+TEST_F(LabEventsTest, OnlyTheLocalApplicationLogIsThere) {
+  EXPECT_FALSE(Reader.Open("", EventReader::ApplicationLog)) << "without a file";
+  EXPECT_EQ(Read(""), "");
+  const std::string local = Network.Model()->LocalComputer;
+  EXPECT_TRUE(Reader.Open("\\\\" + local, EventReader::ApplicationLog));
+  EXPECT_FALSE(Reader.Open(local, 2));
+  for (const char* other : {"DC1", "nobody"}) EXPECT_FALSE(Reader.Open(other, EventReader::ApplicationLog)) << other;
+  std::filesystem::remove(Folder.Path() / "Application.log");
+  std::filesystem::create_directory(Folder.Path() / "Application.log");
+  EXPECT_FALSE(Reader.Open(local, EventReader::ApplicationLog)) << "a folder is no log";
+}
+
+TEST_F(LabEventsTest, RecordsAreReadUpToTheFirstThatIsNone) {
+  const std::pair<const char*, const char*> cases[] = {{"a\tb\tc\td\ne\tf\tg\th\n", "e,f,g,h|a,b,c,d|"},
+                                                       {"a\tb\tc\td\r\n", "a,b,c,d|"},
+                                                       {"a\tb\tc\td\ne\tf\tg\tunfinished", "a,b,c,d|"},
+                                                       {"unfinished", ""},
+                                                       {"\t\t\t\n", ",,,|"},
+                                                       {"a\tb\tc\t1\\n2\\t3\\\\n\n", "a,b,c,1\r\n2\t3\\n|"},
+                                                       {"a\tb\tc\td\n\ne\tf\tg\th\n", "e,f,g,h|"},
+                                                       {"a\tb\tc\td\ne\tf\tg\ne\tf\tg\th\n", "e,f,g,h|"},
+                                                       {"a\tb\tc\td\te\n", ""},
+                                                       {"a\tb\tc\td\\\n", ""},
+                                                       {"a\tb\tc\td\\x\n", ""}};
+  for (const auto& [text, records] : cases) EXPECT_EQ(Read(text), records) << text;
+}
+
+// Lines of every length up to the longest lie across the blocks in which the file is read.
+TEST_F(LabEventsTest, LinesAreWholeWhereverABlockEnds) {
+  const auto read = [&](std::size_t longest, std::size_t step) {
+    std::string text, backward;
+    for (std::size_t length = 0; length <= longest; length += step) text += std::string(length, 'x') + "\n";
+    BackwardLines lines(Folder.Write("lines", text));
+    for (std::string_view line; lines.Previous(line);) backward.insert(0, std::string(line) + "\n");
+    return backward == text;
+  };
+  EXPECT_TRUE(read(3000, 1));
+  EXPECT_TRUE(read(BackwardLines::LongestLine, BackwardLines::LongestLine / 16));
+  EXPECT_FALSE(read(BackwardLines::LongestLine + 16, BackwardLines::LongestLine / 16 + 1));
+  std::string_view line;
+  EXPECT_FALSE(BackwardLines(Folder.Write("endless", std::string(1'000'000, 'x'))).Previous(line));
+}
+
+}  // namespace
+}  // namespace corvane
