@@ -23,6 +23,10 @@ class EventReader {
   static constexpr int ApplicationLog = 1;
 
   virtual ~EventReader() = default;
+  /// Names the one source whose records matter, its case and the blanks around it apart; empty for all. From the next
+  /// `Open` on a reader may leave out the records of other sources, but never the oldest record of the log: where
+  /// events of one source are rare among millions, most of the log need not be touched.
+  virtual void NarrowTo(const std::string& /*source*/) {}
   /// Opens a log of a computer (no leading `\\`) for reading from its newest record to its oldest. False on failure.
   /// A log that is open already is closed before.
   virtual bool Open(const std::string& computer, int log) = 0;
