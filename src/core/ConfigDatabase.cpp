@@ -32,11 +32,6 @@ UpdateEnd RunUpdateLines(LineReader& file, Connection& connection) {
   return UpdateEnd::EndOfFile;
 }
 
-void DeleteAttachments(modMain& main, const char* table, const std::string& idName, const std::string& domain) {
-  main.ConfigConnection->Execute(std::string("DELETE FROM ") + table + " WHERE IDName = '" + idName +
-                                 "' AND [Domain] = '" + domain + "'");
-}
-
 }  // namespace
 
 void OpenConfigDatabase(modMain& main) {
@@ -83,6 +78,11 @@ void StampLastDBUpdate(modMain& main) {
   stamp += "-" + std::to_string(now().Minute);
   stamp += "-" + std::to_string(now().Second);
   main.SaveSetting("LastDBUpdate", stamp);
+}
+
+void DeleteAttachments(modMain& main, const char* table, const std::string& idName, const std::string& domain) {
+  main.ConfigConnection->Execute(std::string("DELETE FROM ") + table + " WHERE IDName = '" + idName +
+                                 "' AND [Domain] = '" + domain + "'");
 }
 
 void DeleteAlarmsAndNots(modMain& main, const std::string& idName, const std::string& domain) {

@@ -25,6 +25,8 @@ void ApplyConfigUpdate(modMain& main);
 /// Tells the monitoring service that the configuration has changed.
 void StampLastDBUpdate(modMain& main);
 
+/// Deletes the rows of one table that are attached to a log.
+void DeleteAttachments(modMain& main, const char* table, const std::string& idName, const std::string& domain);
 /// Deletes the alarms, bundles and notifications attached to a log. Raises at the first statement that fails.
 void DeleteAlarmsAndNots(modMain& main, const std::string& idName, const std::string& domain);
 /// Deletes the ignore events and bundles of ignore events attached to a log. Raises at the first failure.

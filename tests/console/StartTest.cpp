@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
+#include "admin/frmServiceAccount.h"
 #include "app/assembly/RunConsole.h"
 #include "core/Settings.h"
 #include "core/console/frmBegin.h"
+#include "domains/frmDomainChooser.h"
 #include "platform/RuntimeError.h"
 #include "support/ChildProcess.h"
 #include "support/TestConsole.h"
@@ -60,27 +62,116 @@ TEST(Start, ASecondConsoleEndsWithoutAWord) {
   console.Host.Click(console.Window().mnuViewRefresh);
 }
 
-TEST(Start, AFirstRunShowsItsNoticeAndRegistersTheEventSource) {
+// What the administrator does in the dialogs of a first run, in their order.
+class FirstRun {
+ public:
+  explicit FirstRun(TestConsole& console) : host_(console.Host) {
+    host_.OnModal<frmBegin>("frmBegin", [this](frmBegin& form) {
+      EXPECT_TRUE(host_.Slept.empty());
+      host_.Click(form.cmdStart);
+    });
+    host_.OnModal<frmDomainChooser>("frmDomainChooser", [this](frmDomainChooser& form) {
+      EXPECT_EQ("Initializing data access...", Splash().lblProgress.Caption) << "the splash stays behind";
+      host_.Choose(form.optDomain[0]);
+      form.txtStartupDomain.Text = "meridian";
+      host_.Click(form.cmdOK);
+    });
+  }
+  void LeaveAccount() {
+    host_.OnModal<frmServiceAccount>("frmServiceAccount", [this](frmServiceAccount& form) {
+      host_.OnBox(
+          "You must give the Corvane Service a valid service account before the software will function properly.  If "
+          "you "
+          "suspect that a network or permissions issue is preventing you from assigning a service account, press 'OK' "
+          "to "
+          "close this dialog and read a help topic explaining how to manually set your Corvane Service account.  "
+          "Otherwise, press 'Cancel' and try again.");
+      host_.Click(form.cmdCancel);
+    });
+  }
+  void SetAccount(const std::string& account, const std::string& password, const std::string& outcome) {
+    host_.OnModal<frmServiceAccount>("frmServiceAccount", [=, this](frmServiceAccount& form) {
+      host_.Type(form.lstAccountName, account);
+      form.txtPassword.Text = form.txtPassword2.Text = password;
+      host_.OnBox(outcome);
+      host_.Click(form.cmdOK);
+    });
+  }
+  void LeaveComputerNames() {
+    host_.OnModal("frmComputerEnum", [](ui::Form& form) { form.CloseBox(); });
+  }
+
+ private:
+  const frmStartup& Splash() { return dynamic_cast<const frmStartup&>(host_.Under()); }
+
+  ScriptedHost& host_;
+};
+
+const std::vector<std::string> FirstRunForms{"frmBegin",          "frmStartup",      "frmDomainChooser",
+                                             "frmServiceAccount", "frmComputerEnum", "frmCVMain"};
+
+TEST(Start, AFirstRunWalksThroughItsChain) {
   TestConsole console(Installation::Kind::FirstRun);
-  console.Host.OnModal<frmBegin>("frmBegin", [&](frmBegin& form) {
-    EXPECT_TRUE(console.Host.Slept.empty());
-    form.imgEA.Click(6);
-    console.Host.OnBox("Corvane is a trademark of Tarnwick Software.  All rights reserved.");
-    form.imgEA.Click(7);
-    console.Host.Click(form.cmdStart);
-  });
+  FirstRun run(console);
+  run.LeaveAccount();
+  run.LeaveComputerNames();
   console.Start();
-  EXPECT_EQ((std::vector<std::string>{"frmBegin", "frmStartup", "frmCVMain"}), console.Host.Shown);
+  EXPECT_EQ(FirstRunForms, console.Host.Shown);
   const Reghack& settings = console.App.State().Registry;
   const char* source = "System\\CurrentControlSet\\Services\\EventLog\\Application\\Corvane Service";
   EXPECT_EQ("C:\\Corvane\\corvane.exe", settings.DeNullString(settings.GetKeyValue(source, "EventMessageFile")));
   EXPECT_EQ("7", settings.GetKeyValue(source, "TypesSupported"));
   EXPECT_EQ("11_16_2026_14_5_9", console.Setting("LastUpgradeCheck"));
-  EXPECT_EQ("", console.Setting("Created"));
-  // Nobody has named a domain yet.
-  EXPECT_EQ(0, console.Window().lstDomain.Count());
-  // The bridge was started on the way.
+  EXPECT_EQ((std::vector<int>{280}), console.Host.HelpTopics);
+  // The bridge was started on the way, and the domain is the one that was chosen.
   EXPECT_EQ("running", console.Window().stbMain.Panels[2].Picture);
+  EXPECT_EQ("MERIDIAN", console.Window().lstDomain.Text());
+}
+
+TEST(Start, OnlyAnAccountMakesTheNextStartANormalOne) {
+  for (const bool set : {false, true}) {
+    TestConsole console(Installation::Kind::FirstRun);
+    FirstRun first(console);
+    if (set)
+      first.SetAccount("CVCONSOLE1\\corvane", "a word!",
+                       "The CVCONSOLE1\\corvane account has been granted two user rights on CVCONSOLE1 so that the "
+                       "Corvane Service can work correctly:\n1.) Log on as a service\n2.) Act as part of the operating "
+                       "system");
+    else
+      first.LeaveAccount();
+    first.LeaveComputerNames();
+    console.Start();
+    EXPECT_EQ(set ? "1" : "", console.Setting("Created"));
+    console.Host.Shown.clear();
+    console.Host.Slept.clear();
+    if (!set) {
+      FirstRun second(console);
+      second.LeaveAccount();
+      second.LeaveComputerNames();
+    }
+    Console again(console.Ports);
+    again.Main();
+    EXPECT_TRUE(again.Started());
+    EXPECT_EQ(set ? std::vector<std::string>({"frmStartup", "frmCVMain"}) : FirstRunForms, console.Host.Shown);
+  }
+}
+
+TEST(Start, AFirstRunCanBeLeftAtItsFirstQuestion) {
+  TestConsole console(Installation::Kind::FirstRun);
+  console.Host.OnModal<frmBegin>("frmBegin", [&](frmBegin& form) {
+    form.imgEA.Click(6);
+    console.Host.OnBox("Corvane is a trademark of Tarnwick Software.  All rights reserved.");
+    form.imgEA.Click(7);
+    console.Host.Click(form.cmdStart);
+  });
+  console.Host.OnModal<frmDomainChooser>("frmDomainChooser", [&](frmDomainChooser& form) {
+    console.Host.OnBox(
+        "You must select a domain or workgroup to continue.  Would you like to end this application now?",
+        ui::MsgResult::Yes);
+    console.Host.Click(form.cmdCancel);
+  });
+  EXPECT_EQ(0, RunConsole(console.Ports, [] { return 1; }));
+  EXPECT_EQ("frmDomainChooser", console.Host.Shown.back());
 }
 
 TEST(Start, OnlyTheVersionsThatHaveThemGetTheNetworkObjects) {
@@ -167,8 +258,12 @@ TEST(Start, AnUnreadableRegistryIsAFirstRunThatEndsWithItsError) {
   const auto file = console.Folder() / Installation::RegistryFile;
   const std::string garbled = "[HKEY_LOCAL_MACHINE\n\"cut short";
   Overwrite(file, garbled);
-  console.Host.OnModal("frmBegin", [](ui::Form& form) { form.CloseBox(); });
-  console.Host.OnBox("Run-time error '13':\n\nType mismatch");
+  FirstRun run(console);
+  run.LeaveAccount();
+  console.Host.OnModal("frmComputerEnum", [&](ui::Form& form) {
+    form.CloseBox();
+    console.Host.OnBox("Run-time error '13':\n\nType mismatch");
+  });
   EXPECT_EQ(1, RunConsole(console.Ports, [] { return 0; }));
   std::ifstream kept(file, std::ios::binary);
   EXPECT_EQ(garbled, std::string(std::istreambuf_iterator<char>(kept), {}));

@@ -227,6 +227,8 @@ TEST_F(LogEditTest, AnAlarmThatIsGoneAtTheSaveIsAnErrorOfThatSave) {
 // A main window that has lost its list.
 class BrokenWindow : public MainWindow {
  public:
+  void RefillLogs() override {}
+  void RefillSyslogs() override {}
   explicit BrokenWindow(MainWindow& real) : real_(real) {}
   ui::ComboBox& DomainBox() override { return real_.DomainBox(); }
   const ui::ListView& WatchedLogs() const override { throw RuntimeError(errors::NoObject, "Object not set"); }

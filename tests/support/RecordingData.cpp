@@ -22,6 +22,10 @@ class RecordingConnection : public Connection {
   void BeginTrans() override { real_->BeginTrans(); }
   void CommitTrans() override { real_->CommitTrans(); }
   void RollbackTrans() override { real_->RollbackTrans(); }
+  void SetLockWait(int milliseconds) override {
+    data_.LockWaits.push_back(milliseconds);
+    real_->SetLockWait(milliseconds);
+  }
 
   Connection& Real() { return *real_; }
 

@@ -22,6 +22,8 @@ class RecordingData : public DataProvider {
   void Forget() { Statements.clear(); }
   /// Every string that a connection was to be opened with.
   std::vector<std::string> Tried;
+  /// How long statements were to wait for a lock, in milliseconds, each time that this was changed.
+  std::vector<int> LockWaits;
   /// Those of the statements that change rows.
   std::vector<std::string> Changes() const;
 

@@ -216,4 +216,9 @@ void ScriptedHost::DoEvents() {
   action();
 }
 
+void ScriptedHost::Sleep(int milliseconds) {
+  Slept.push_back(milliseconds);
+  if (DuringSleep) DuringSleep();
+}
+
 }  // namespace corvane::test

@@ -71,6 +71,8 @@ class ScriptedHost : public ui::UiHost {
 
   /// The form shown last.
   ui::Form& Top() { return *shownForms_.back(); }
+  /// The one shown before it.
+  ui::Form& Under() { return **(shownForms_.end() - 2); }
 
   /// Lets virtual time pass and runs the timers of shown forms that come due.
   void Pass(int milliseconds);
@@ -89,7 +91,7 @@ class ScriptedHost : public ui::UiHost {
   void PopupMenu(ui::MenuItem& menu) override { Popups.push_back(&menu); }
   void SetFocus(ui::Control& control) override;
   void DoEvents() override;
-  void Sleep(int milliseconds) override { Slept.push_back(milliseconds); }
+  void Sleep(int milliseconds) override;
   void ShowHelp(int context) override { HelpTopics.push_back(context); }
   void CloseHelp() override { HelpTopics.clear(); }
 
@@ -97,6 +99,8 @@ class ScriptedHost : public ui::UiHost {
   /// Names of all forms that were shown, modal or not, in order.
   std::vector<std::string> Shown;
   std::vector<int> Slept;
+  /// What happens while the program sleeps.
+  std::function<void()> DuringSleep;
   std::vector<int> HelpTopics;
   std::vector<ui::MenuItem*> Popups;
   std::vector<ui::SaveDialog> SaveDialogs;

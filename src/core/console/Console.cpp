@@ -1,11 +1,14 @@
 #include "core/console/Console.h"
 
+#include "admin/frmServiceAccount.h"
 #include "core/ConfigDatabase.h"
 #include "core/ServiceControl.h"
 #include "core/Settings.h"
 #include "core/TimeStamp.h"
 #include "core/console/frmBegin.h"
 #include "domains/CustomDomains.h"
+#include "domains/frmComputerEnum.h"
+#include "domains/frmDomainChooser.h"
 #include "platform/Conversions.h"
 #include "platform/Launcher.h"
 #include "platform/RuntimeError.h"
@@ -58,8 +61,8 @@ void Console::Main() {
   mainWindow_->RefillLogs(false);
   mainWindow_->InitActiveTab();
   ShowSplashStage("Checking status of services...");
-  mainWindow_->ShowService(1, CorvaneServiceState(main_.Platform.Services) == 1);
-  mainWindow_->ShowService(2, SyslogBridgeState(main_.Platform.Services) == 1);
+  mainWindow_->ShowService(Service::Monitoring, CorvaneServiceState(main_.Platform.Services) == 1);
+  mainWindow_->ShowService(Service::SyslogBridge, SyslogBridgeState(main_.Platform.Services) == 1);
   splash_->Unload();
   mainWindow_->Show();
   splash_.reset();
@@ -91,8 +94,16 @@ void Console::ShowSplashStage(const char* caption) {
   main_.Ui.Sleep(PausePerStage);
 }
 
+// Each dialog opens when the former is closed, however that was: only the account decides whether the next start is a
+// first run again.
 void Console::RunFirstRunChain() {
-  if (StartSyslogBridgeNow(main_.Platform.Services) == 1) mainWindow_->ShowService(2, true);
+  frmDomainChooser chooser(main_);
+  chooser.Load();
+  chooser.IsFirstRun = true;
+  chooser.ShowModal();
+  frmServiceAccount(main_).ShowModal();
+  if (StartSyslogBridgeNow(main_.Platform.Services) == 1) mainWindow_->ShowService(Service::SyslogBridge, true);
+  frmComputerEnum(main_).ShowModal();
   main_.SaveSetting("LastUpgradeCheck", TimeStampText(main_.Platform.System.Now()));
 }
 

@@ -1,13 +1,25 @@
 #include "core/console/frmCVMain.h"
 
+#include "admin/frmServiceAccount.h"
+#include "core/Browser.h"
 #include "core/LogTypes.h"
 #include "core/PassOver.h"
+#include "core/ServiceControl.h"
+#include "core/console/LogDeletion.h"
+#include "core/console/SyslogDeletion.h"
 #include "core/console/SyslogDeviceList.h"
+#include "core/console/UpgradeReminder.h"
 #include "core/console/WatchedLogList.h"
+#include "core/console/frmControlService.h"
+#include "core/console/frmLogView.h"
 #include "core/console/frmStartup.h"
 #include "core/modMain.h"
 #include "domains/DomainList.h"
+#include "domains/frmComputerEnum.h"
+#include "domains/frmCustomDomainManager.h"
+#include "domains/frmDomainChooser.h"
 #include "logs/frmLogEdit.h"
+#include "platform/Conversions.h"
 #include "platform/Launcher.h"
 #include "platform/ui/UiHost.h"
 
@@ -15,6 +27,8 @@ namespace corvane {
 namespace {
 
 constexpr int HelpTopic = 110;
+constexpr int OtherDatabasesTopic = 670;
+constexpr int PauseBeforeReminder = 15000;
 constexpr int LogTab = 0;
 constexpr int SyslogTab = 1;
 
@@ -36,9 +50,11 @@ frmCVMain::frmCVMain(modMain& main)
                                                        "alarm",      "notification"} {
   HelpContext = HelpTopic;
   SetCaptions();
+  SetPictures();
   SetToolbar();
   SetLists();
   WireMenus();
+  WireOptionsMenu();
   WireControls();
 }
 
@@ -57,22 +73,75 @@ void frmCVMain::SetCaptions() {
   }
   mnuHidden.Popup = true;
   mnuViewRefresh.Shortcut = "F5";
-  for (auto* item : {&mnuFileAdd, &mnuHiddenAdd}) item->Picture = "add";
-  for (auto* item : {&mnuFileEdit, &mnuHiddenEdit}) item->Picture = "edit";
-  for (auto* item : {&mnuFileEventViewer, &mnuHiddenEventViewer}) item->Picture = "eventviewer";
-  mnuViewRefresh.Picture = "refresh";
-  mnuHelpCVHelpFile.Picture = "help";
-  mnuHelpAbout.Picture = "about";
+  tmrUpgradeCheck.Interval = PauseBeforeReminder;
 }
 
+void frmCVMain::SetPictures() {
+  const std::pair<ui::MenuItem*, const char*> pictures[] = {{&mnuFileAdd, "add"},
+                                                            {&mnuHiddenAdd, "add"},
+                                                            {&mnuFileEdit, "edit"},
+                                                            {&mnuHiddenEdit, "edit"},
+                                                            {&mnuFileDelete, "delete"},
+                                                            {&mnuHiddenDelete, "delete"},
+                                                            {&mnuFileSyslogDelete, "syslogdelete"},
+                                                            {&mnuHiddenSyslogDelete, "syslogdelete"},
+                                                            {&mnuFileEventViewer, "eventviewer"},
+                                                            {&mnuHiddenEventViewer, "eventviewer"},
+                                                            {&mnuViewRefresh, "refresh"},
+                                                            {&mnuToolsDatabase, "database"},
+                                                            {&mnuToolsViewLogEntries, "log"},
+                                                            {&mnuOptionsServiceAccount, "account"},
+                                                            {&mnuOptionsStartService, "running"},
+                                                            {&mnuOptionsStopService, "stopped"},
+                                                            {&mnuOptionsStartService2, "running"},
+                                                            {&mnuOptionsStopService2, "stopped"},
+                                                            {&mnuOptionsDefaultDomain, "domain"},
+                                                            {&mnuOptionsCustomDomains, "customdomain"},
+                                                            {&mnuOptionsComputerNames, "computers"},
+                                                            {&mnuHelpUpgradeCheck, "upgrade"},
+                                                            {&mnuHelpCVHelpFile, "help"},
+                                                            {&mnuHelpAbout, "about"}};
+  for (const auto& [item, picture] : pictures) item->Picture = picture;
+}
+
+// The commands of every day bear their names, the others their pictures alone: all of them have to fit into one row.
 void frmCVMain::SetToolbar() {
-  const ui::ToolButton separator{"", "", "", "", true, true};
-  tbrMain.Buttons = {{"add", "Watch Log", "Watch a New Log", "add"},
-                     {"edit", "Edit Log", "Edit the Selected Log", "edit"},
-                     separator,
-                     {"eventviewer", "Event Viewer", "Open the Event Viewer on the Selected Computer", "eventviewer"},
-                     separator,
-                     {"refresh", "Refresh", "Refresh the List", "refresh"}};
+  const auto add = [this](ui::ToolButton button, ui::Handler command) {
+    toolCommands_[button.Key] = std::move(command);
+    tbrMain.Buttons.push_back(std::move(button));
+  };
+  const auto separate = [this] { tbrMain.Buttons.push_back({"", "", "", "", true, true}); };
+  add({"add", "Watch Log", "Watch a New Log", "add"}, [this] { mnuFileAdd_Click(); });
+  add({"edit", "Edit Log", "Edit the Selected Log", "edit"}, [this] { mnuFileEdit_Click(); });
+  add({"delete", "Delete Log(s)", "Stop Watching the Selected Log(s)", "delete"}, [this] { mnuFileDelete_Click(); });
+  separate();
+  add({"deletesyslog", "", "Delete Syslog Device(s)", "syslogdelete"}, [this] { mnuFileSyslogDelete_Click(); });
+  separate();
+  add({"eventviewer", "Event Viewer", "Open the Event Viewer on the Selected Computer", "eventviewer"},
+      [this] { mnuFileEventViewer_Click(); });
+  separate();
+  add({"refresh", "Refresh", "Refresh the List", "refresh"}, [this] { mnuViewRefresh_Click(); });
+  separate();
+  add({"databasetools",
+       "",
+       "Database Helpers",
+       "database",
+       true,
+       false,
+       {{"Creating Tables on Other ODBC Servers", [this] { mnuDatabaseOther.Click(); }}}},
+      [this] { AskForDropDown(); });
+  add({"viewlogentries", "Log Entries", "View Corvane Log Entries", "log"}, [this] { mnuToolsViewLogEntries_Click(); });
+  separate();
+  add({"setserviceaccount", "", "Set Corvane Service Account", "account"},
+      [this] { mnuOptionsServiceAccount_Click(); });
+  add({"startservice", "", "Start a Service", "running"}, [this] { ControlService(true); });
+  add({"stopservice", "", "Stop a Service", "stopped"}, [this] { ControlService(false); });
+  add({"setdefaultdomain", "", "Set Default Domain or Workgroup", "domain"},
+      [this] { mnuOptionsDefaultDomain_Click(); });
+  add({"customdomains", "", "Manage Custom Domain to Computer Mappings", "customdomain"},
+      [this] { mnuOptionsCustomDomains_Click(); });
+  add({"retrievecomputersfrom", "", "Retrieve Computer Names From", "computers"},
+      [this] { mnuOptionsComputerNames_Click(); });
 }
 
 void frmCVMain::SetLists() {
@@ -91,11 +160,30 @@ void frmCVMain::WireMenus() {
   mnuFile.Click = [this] { mnuFile_Click(); };
   mnuFileAdd.Click = mnuHiddenAdd.Click = [this] { mnuFileAdd_Click(); };
   mnuFileEdit.Click = mnuHiddenEdit.Click = [this] { mnuFileEdit_Click(); };
+  mnuFileDelete.Click = mnuHiddenDelete.Click = [this] { mnuFileDelete_Click(); };
+  mnuFileSyslogDelete.Click = mnuHiddenSyslogDelete.Click = [this] { mnuFileSyslogDelete_Click(); };
   mnuFileEventViewer.Click = mnuHiddenEventViewer.Click = [this] { mnuFileEventViewer_Click(); };
   mnuFileExit.Click = [this] { Unload(); };
   mnuViewRefresh.Click = [this] { mnuViewRefresh_Click(); };
+  mnuDatabaseOther.Click = [this] { main_.Ui.ShowHelp(OtherDatabasesTopic); };
+  mnuToolsViewLogEntries.Click = [this] { mnuToolsViewLogEntries_Click(); };
+  mnuHelpVisitTarnwick.Click = [this] { OpenInBrowser(main_, VendorSite); };
+  mnuHelpTarnwickSoftwareCatalog.Click = [this] { OpenInBrowser(main_, main_.CatalogLink); };
+  mnuHelpUpgradeCheck.Click = [this] { CheckForUpgrades(main_); };
   mnuHelpCVHelpFile.Click = [this] { main_.Ui.ShowHelp(0); };
   mnuHelpAbout.Click = [this] { mnuHelpAbout_Click(); };
+}
+
+void frmCVMain::WireOptionsMenu() {
+  mnuOptions.Click = [this] { mnuOptions_Click(); };
+  mnuOptionsServiceAccount.Click = [this] { mnuOptionsServiceAccount_Click(); };
+  mnuOptionsStartService.Click = [this] { StartCorvaneService(Service::Monitoring); };
+  mnuOptionsStopService.Click = [this] { StopCorvaneService(Service::Monitoring); };
+  mnuOptionsStartService2.Click = [this] { StartCorvaneService(Service::SyslogBridge); };
+  mnuOptionsStopService2.Click = [this] { StopCorvaneService(Service::SyslogBridge); };
+  mnuOptionsDefaultDomain.Click = [this] { mnuOptionsDefaultDomain_Click(); };
+  mnuOptionsCustomDomains.Click = [this] { mnuOptionsCustomDomains_Click(); };
+  mnuOptionsComputerNames.Click = [this] { mnuOptionsComputerNames_Click(); };
 }
 
 void frmCVMain::WireControls() {
@@ -106,6 +194,7 @@ void frmCVMain::WireControls() {
   lvwSyslogs.ColumnClick = [this](int column) { lvwSyslogs_ColumnClick(column); };
   lvwComputers.DblClick = [this] { mnuFileEdit_Click(); };
   lvwComputers.MouseUp = [this](ui::MouseButton button) { lvwComputers_MouseUp(button); };
+  tmrUpgradeCheck.Tick = [this] { tmrUpgradeCheck_Timer(); };
   lvwSyslogs.MouseUp = [this](ui::MouseButton button) { lvwSyslogs_MouseUp(button); };
 }
 
@@ -130,9 +219,22 @@ void frmCVMain::InitActiveTab() {
   tabMain_Click();
 }
 
-void frmCVMain::ShowService(std::size_t panel, bool running) {
-  stbMain.Panels[panel].Text = panel == 1 ? "Corvane Service" : "Syslog Bridge Service";
-  stbMain.Panels[panel].Picture = imgplay[running ? 0 : 1].Picture;
+void frmCVMain::ShowService(Service service, bool running) {
+  ui::StatusPanel& panel = stbMain.Panels[static_cast<std::size_t>(service)];
+  panel.Text = service == Service::Monitoring ? "Corvane Service" : "Syslog Bridge Service";
+  panel.Picture = imgplay[running ? 0 : 1].Picture;
+}
+
+void frmCVMain::StartCorvaneService(Service service) {
+  SetPointer(ui::Pointer::Hourglass);
+  if (StartServiceByCommand(main_, service)) ShowService(service, true);
+  SetPointer(ui::Pointer::Default);
+}
+
+void frmCVMain::StopCorvaneService(Service service) {
+  SetPointer(ui::Pointer::Hourglass);
+  if (StopServiceByCommand(main_, service)) ShowService(service, false);
+  SetPointer(ui::Pointer::Default);
 }
 
 std::string frmCVMain::CurrentIDName() const {
@@ -160,17 +262,22 @@ void frmCVMain::tabMain_Click() {
 
 // Buttons are named by their keys: their places shift as screens come in.
 void frmCVMain::EnableLogCommands(bool on) {
-  for (ui::MenuItem* item :
-       {&mnuFileAdd, &mnuFileEdit, &mnuFileEventViewer, &mnuHiddenAdd, &mnuHiddenEdit, &mnuHiddenEventViewer})
+  for (ui::MenuItem* item : {&mnuFileAdd, &mnuFileEdit, &mnuFileDelete, &mnuFileEventViewer, &mnuHiddenAdd,
+                             &mnuHiddenEdit, &mnuHiddenDelete, &mnuHiddenEventViewer})
     item->Enabled = on;
-  for (const char* key : {"add", "edit", "eventviewer"}) tbrMain.Button(key).Enabled = on;
+  for (const char* key : {"add", "edit", "delete", "eventviewer"}) tbrMain.Button(key).Enabled = on;
+  mnuFileSyslogDelete.Enabled = mnuHiddenSyslogDelete.Enabled = tbrMain.Button("deletesyslog").Enabled = !on;
 }
 
 void frmCVMain::tbrMain_ButtonClick(const std::string& key) {
-  if (key == "add") mnuFileAdd_Click();
-  if (key == "edit") mnuFileEdit_Click();
-  if (key == "eventviewer") mnuFileEventViewer_Click();
-  if (key == "refresh") mnuViewRefresh_Click();
+  for (const auto& [name, command] : toolCommands_)
+    if (SameText(name, key)) return command();
+}
+
+// A button that only drops down: what it offers is behind its arrow.
+void frmCVMain::AskForDropDown() {
+  main_.Ui.MsgBox("Please select one of the wizards/tools by clicking the down arrow next to this button.",
+                  ui::MsgIcon::Exclamation);
 }
 
 // The computers are put in order by the database, and times and durations by keys that the user does not see.
@@ -234,6 +341,18 @@ void frmCVMain::mnuFileEdit_Click() {
   RefillLogs(false);
 }
 
+void frmCVMain::mnuFileDelete_Click() {
+  if (CurrentIDName().empty()) return;
+  std::vector<DoomedLog> logs;
+  for (const ui::ListItem& item : lvwComputers.Items())
+    if (item.Selected) logs.push_back({item.Text, item.Cell(logcolumn::Log)});
+  DeleteWatchedLogs(main_, logs, lstDomain.Text());
+}
+
+void frmCVMain::mnuFileSyslogDelete_Click() {
+  if (DeleteSyslogDevices(main_, lvwSyslogs)) RefillSyslogs(false);
+}
+
 void frmCVMain::mnuFileEventViewer_Click() {
   const int row = lvwComputers.SelectedRow();
   if (row < 0) return;
@@ -246,6 +365,64 @@ void frmCVMain::mnuViewRefresh_Click() {
     RefillSyslogs(false);
   else
     RefillLogs(false);
+}
+
+void frmCVMain::mnuToolsViewLogEntries_Click() {
+  frmLogView viewer(main_);
+  viewer.ShowModal();
+}
+
+// The states are read each time the menu opens: nothing watches the services in between.
+void frmCVMain::mnuOptions_Click() {
+  SetPointer(ui::Pointer::Hourglass);
+  ServiceManager& services = main_.Platform.Services;
+  const bool watching = CorvaneServiceState(services) == 1;
+  ShowService(Service::Monitoring, watching);
+  mnuOptionsStartService.Enabled = !watching;
+  mnuOptionsStopService.Enabled = watching;
+  const bool bridging = SyslogBridgeState(services) == 1;
+  ShowService(Service::SyslogBridge, bridging);
+  mnuOptionsStartService2.Enabled = !bridging;
+  mnuOptionsStopService2.Enabled = bridging;
+  SetPointer(ui::Pointer::Default);
+}
+
+void frmCVMain::mnuOptionsServiceAccount_Click() {
+  frmServiceAccount account(main_);
+  account.ShowModal();
+}
+
+void frmCVMain::mnuOptionsDefaultDomain_Click() {
+  frmDomainChooser chooser(main_);
+  chooser.ShowModal();
+}
+
+void frmCVMain::mnuOptionsCustomDomains_Click() {
+  frmCustomDomainManager manager(main_);
+  manager.ShowModal();
+}
+
+void frmCVMain::mnuOptionsComputerNames_Click() {
+  frmComputerEnum source(main_);
+  source.ShowModal();
+}
+
+void frmCVMain::ControlService(bool start) {
+  frmControlService control(main_, [&](Service service) {
+    if (start)
+      StartCorvaneService(service);
+    else
+      StopCorvaneService(service);
+  });
+  control.Load();
+  control.IsStart = start;
+  control.InitForm();
+  control.ShowModal();
+}
+
+void frmCVMain::tmrUpgradeCheck_Timer() {
+  tmrUpgradeCheck.Enabled = false;
+  RemindOfUpgrades(main_);
 }
 
 void frmCVMain::mnuHelpAbout_Click() {

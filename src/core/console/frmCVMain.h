@@ -1,10 +1,12 @@
 #pragma once
 
 #include <array>
+#include <map>
 #include <string_view>
 #include <vector>
 
 #include "core/MainWindow.h"
+#include "core/console/ServiceCommands.h"
 #include "platform/ui/Commands.h"
 #include "platform/ui/Form.h"
 #include "platform/ui/ImageList.h"
@@ -25,19 +27,45 @@ class frmCVMain : public ui::Form, public MainWindow {
   ui::MenuItem mnuFile{*this, "mnuFile", "&File"};
   ui::MenuItem mnuFileAdd{mnuFile, "mnuFileAdd", "&Watch a New Log..."};
   ui::MenuItem mnuFileEdit{mnuFile, "mnuFileEdit", "&Edit the Selected Log..."};
+  ui::MenuItem mnuFileDelete{mnuFile, "mnuFileDelete", "&Delete the Selected Log(s)"};
   ui::MenuItem mnuFileBar1{mnuFile, "mnuFileBar1", "-"};
-  ui::MenuItem mnuFileEventViewer{mnuFile, "mnuFileEventViewer", "Event &Viewer..."};
+  ui::MenuItem mnuFileSyslogDelete{mnuFile, "mnuFileSyslogDelete", "Delete Sys&log Device(s)"};
   ui::MenuItem mnuFileBar2{mnuFile, "mnuFileBar2", "-"};
+  ui::MenuItem mnuFileEventViewer{mnuFile, "mnuFileEventViewer", "Event &Viewer..."};
+  ui::MenuItem mnuFileBar3{mnuFile, "mnuFileBar3", "-"};
   ui::MenuItem mnuFileExit{mnuFile, "mnuFileExit", "E&xit"};
   ui::MenuItem mnuView{*this, "mnuView", "&View"};
   ui::MenuItem mnuViewRefresh{mnuView, "mnuViewRefresh", "&Refresh"};
+  ui::MenuItem mnuTools{*this, "mnuTools", "&Tools"};
+  ui::MenuItem mnuToolsDatabase{mnuTools, "mnuToolsDatabase", "&Database Helpers"};
+  ui::MenuItem mnuDatabaseOther{mnuToolsDatabase, "mnuDatabaseOther", "Creating Tables on &Other ODBC Servers"};
+  ui::MenuItem mnuToolsViewLogEntries{mnuTools, "mnuToolsViewLogEntries", "&View Corvane Log Entries"};
+  ui::MenuItem mnuOptions{*this, "mnuOptions", "&Options"};
+  ui::MenuItem mnuOptionsServiceAccount{mnuOptions, "mnuOptionsServiceAccount", "&Set Corvane Service Account"};
+  ui::MenuItem mnuOptionsBar1{mnuOptions, "mnuOptionsBar1", "-"};
+  ui::MenuItem mnuOptionsStartService{mnuOptions, "mnuOptionsStartService", "St&art the Corvane Service"};
+  ui::MenuItem mnuOptionsStopService{mnuOptions, "mnuOptionsStopService", "Sto&p the Corvane Service"};
+  ui::MenuItem mnuOptionsStartService2{mnuOptions, "mnuOptionsStartService2", "Sta&rt the Syslog Bridge Service"};
+  ui::MenuItem mnuOptionsStopService2{mnuOptions, "mnuOptionsStopService2", "Stop the Syslog &Bridge Service"};
+  ui::MenuItem mnuOptionsBar2{mnuOptions, "mnuOptionsBar2", "-"};
+  ui::MenuItem mnuOptionsDefaultDomain{mnuOptions, "mnuOptionsDefaultDomain", "Set &Default Domain or Workgroup"};
+  ui::MenuItem mnuOptionsCustomDomains{mnuOptions, "mnuOptionsCustomDomains",
+                                       "&Manage Custom Domain to Computer Mappings..."};
+  ui::MenuItem mnuOptionsComputerNames{mnuOptions, "mnuOptionsComputerNames", "Retrie&ve Computer Names From"};
   ui::MenuItem mnuHelp{*this, "mnuHelp", "&Help"};
+  ui::MenuItem mnuHelpVisitTarnwick{mnuHelp, "mnuHelpVisitTarnwick", "&Visit Tarnwick on the Web"};
+  ui::MenuItem mnuHelpTarnwickSoftwareCatalog{mnuHelp, "mnuHelpTarnwickSoftwareCatalog", "Tarnwick &Software Catalog"};
+  ui::MenuItem mnuHelpUpgradeCheck{mnuHelp, "mnuHelpUpgradeCheck", "&Check for Product Upgrades"};
+  ui::MenuItem mnuHelpBar1{mnuHelp, "mnuHelpBar1", "-"};
   ui::MenuItem mnuHelpCVHelpFile{mnuHelp, "mnuHelpCVHelpFile", "&Corvane Help File"};
   ui::MenuItem mnuHelpAbout{mnuHelp, "mnuHelpAbout", "&About Corvane"};
   ui::MenuItem mnuHidden{*this, "mnuHidden", ""};
   ui::MenuItem mnuHiddenAdd{mnuHidden, "mnuHiddenAdd", "&Watch a New Log..."};
   ui::MenuItem mnuHiddenEdit{mnuHidden, "mnuHiddenEdit", "&Edit the Selected Log..."};
+  ui::MenuItem mnuHiddenDelete{mnuHidden, "mnuHiddenDelete", "&Delete the Selected Log(s)"};
   ui::MenuItem mnuHiddenBar1{mnuHidden, "mnuHiddenBar1", "-"};
+  ui::MenuItem mnuHiddenSyslogDelete{mnuHidden, "mnuHiddenSyslogDelete", "Delete Sys&log Device(s)"};
+  ui::MenuItem mnuHiddenBar2{mnuHidden, "mnuHiddenBar2", "-"};
   ui::MenuItem mnuHiddenEventViewer{mnuHidden, "mnuHiddenEventViewer", "Event &Viewer..."};
 
   ui::Toolbar tbrMain{*this, "tbrMain"};
@@ -49,6 +77,7 @@ class frmCVMain : public ui::Form, public MainWindow {
   ui::Label lblBanner{*this, "lblBanner"};
   ui::StatusBar stbMain{*this, "stbMain"};
   std::array<ui::Image, 2> imgplay{ui::Image{*this, "imgplay"}, ui::Image{*this, "imgplay"}};
+  ui::Timer tmrUpgradeCheck{*this, "tmrUpgradeCheck"};
 
   /// Fills the box of domains with the default domain and those it trusts, and lists the logs of the chosen one.
   void FillTrustingDomains();
@@ -61,8 +90,13 @@ class frmCVMain : public ui::Form, public MainWindow {
   void RefillSyslogs() override { RefillSyslogs(false); }
   /// Brings the logs to the front and sets the commands accordingly.
   void InitActiveTab();
-  /// Shows a service in its panel of the status bar, 1 the monitoring service, 2 the bridge.
-  void ShowService(std::size_t panel, bool running);
+  /// Shows a service in its panel of the status bar.
+  void ShowService(Service service, bool running);
+  /// Run the commands of the Options menu that start and stop a service.
+  void StartCorvaneService(Service service);
+  void StopCorvaneService(Service service);
+  /// Opens the choice of the default domain.
+  void ShowDefaultDomain() { mnuOptionsDefaultDomain_Click(); }
 
   ui::ComboBox& DomainBox() override { return lstDomain; }
   const ui::ListView& WatchedLogs() const override { return lvwComputers; }
@@ -75,9 +109,11 @@ class frmCVMain : public ui::Form, public MainWindow {
 
  private:
   void SetCaptions();
+  void SetPictures();
   void SetToolbar();
   void SetLists();
   void WireMenus();
+  void WireOptionsMenu();
   void WireControls();
 
   void lstDomain_Click();
@@ -90,14 +126,27 @@ class frmCVMain : public ui::Form, public MainWindow {
   void mnuFile_Click();
   void mnuFileAdd_Click();
   void mnuFileEdit_Click();
+  void mnuFileDelete_Click();
+  void mnuFileSyslogDelete_Click();
   void mnuFileEventViewer_Click();
   void mnuViewRefresh_Click();
+  void mnuToolsViewLogEntries_Click();
+  void mnuOptions_Click();
+  void mnuOptionsServiceAccount_Click();
+  void mnuOptionsDefaultDomain_Click();
+  void mnuOptionsCustomDomains_Click();
+  void mnuOptionsComputerNames_Click();
   void mnuHelpAbout_Click();
+  void AskForDropDown();
+  void ControlService(bool start);
+  void tmrUpgradeCheck_Timer();
 
   void EnableLogCommands(bool on);
 
   modMain& main_;
   ui::ImageList images_;
+  /// What the buttons of the toolbar do, by key.
+  std::map<std::string, ui::Handler> toolCommands_;
   std::array<bool, 2> syslogSortState_{};
 };
 
