@@ -1,20 +1,13 @@
-"""A template for python3-dbusmock that stands in systemd's place.
-
-Its units behave as their names say: one that is called like an active state is in it, and the others are inactive.
-What the manager was asked to do is written to the file CALLS of the environment, one call a line.
-"""
+"""A template for python3-dbusmock that stands in systemd's place. A unit is in the active state that it is named by,
+and some names stand for faults. What the manager has taken is in the file CALLS of the environment, a call a line."""
 import os
 
 import dbus
 from dbusmock import mockobject
 
-BUS_NAME = "org.freedesktop.systemd1"
-MAIN_OBJ = "/org/freedesktop/systemd1"
-MAIN_IFACE = "org.freedesktop.systemd1.Manager"
-UNIT_IFACE = "org.freedesktop.systemd1.Unit"
+BUS_NAME, MAIN_OBJ = "org.freedesktop.systemd1", "/org/freedesktop/systemd1"
+MAIN_IFACE, UNIT_IFACE = BUS_NAME + ".Manager", BUS_NAME + ".Unit"
 SYSTEM_BUS = False
-
-STATES = {"active", "reloading", "failed", "activating", "deactivating", "unheard-of"}
 REFUSALS = {
     "guarded": "org.freedesktop.DBus.Error.AccessDenied",
     "asking": "org.freedesktop.DBus.Error.InteractiveAuthorizationRequired",
@@ -31,7 +24,7 @@ def method(arguments, result, **more):
 
 
 def path_of(unit):
-    return MAIN_OBJ + "/unit/" + unit.replace(".", "_2e").replace("-", "_2d")
+    return MAIN_OBJ + "/unit/" + unit.replace(".", "_2e")
 
 
 def take(call, unit, *arguments):
@@ -49,15 +42,13 @@ def job(call, unit, mode, state):
 
 @method("s", "o", async_callbacks=("reply", "fail"))
 def LoadUnit(self, unit, reply, fail):
-    stem = unit.split(".")[0]
-    if stem == "hidden":
+    state = unit.split(".")[0]
+    if state == "hidden":
         fail(dbus.exceptions.DBusException("Refused", name=REFUSALS["guarded"]))
-    elif stem != "silent":
+    elif state != "silent":
         if path_of(unit) not in mockobject.objects:
-            self.AddObject(path_of(unit), UNIT_IFACE, {
-                "LoadState": "not-found" if stem == "missing" else "loaded",
-                "ActiveState": stem if stem in STATES else "inactive",
-            }, [])
+            found = "not-found" if state == "missing" else "loaded"
+            self.AddObject(path_of(unit), UNIT_IFACE, {"LoadState": found, "ActiveState": state}, [])
         reply(path_of(unit))
 
 

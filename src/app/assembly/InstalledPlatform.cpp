@@ -12,6 +12,7 @@
 #include "adapters/lab/LabSystem.h"
 #include "adapters/lab/LabUnitQuery.h"
 #include "adapters/linux/HostPaths.h"
+#include "adapters/linux/JournalEventReader.h"
 #include "adapters/linux/LinuxFiles.h"
 #include "adapters/linux/LinuxLauncher.h"
 #include "adapters/linux/LinuxPing.h"
@@ -70,7 +71,6 @@ struct InstalledPlatform::Adapters {
         Machine(Choice.Number("System", "MajorVersion", NewestSystem)),
         LocalSystem(Network, Machine),
         EventLogs(Network),
-        LabEvents(Network, folder / Installation::EventLogFolder),
         Net(Network),
         Directory(Network),
         Units(Network),
@@ -85,6 +85,10 @@ struct InstalledPlatform::Adapters {
           [this](const std::string& name) { return Choice.Text("Services", name); });
     else
       Services = std::make_unique<LabServiceManager>(Network);
+    if (Choice.Is("Events", "Source", "journal"))
+      Events = std::make_unique<JournalEventReader>(LocalSystem, Paths(Choice.Text("Events", "Path")));
+    else
+      Events = std::make_unique<LabEventReader>(Network, folder / Installation::EventLogFolder);
   }
 
   PathMap Paths;
@@ -98,7 +102,7 @@ struct InstalledPlatform::Adapters {
   LabSystem LocalSystem;
   std::unique_ptr<ServiceManager> Services;
   LabEventLogs EventLogs;
-  LabEventReader LabEvents;
+  std::unique_ptr<EventReader> Events;
   LabNetX Net;
   LabDirectoryProvider Directory;
   LabUnitQuery Units;
@@ -111,7 +115,7 @@ InstalledPlatform::InstalledPlatform(const std::filesystem::path& folder, ui::Ui
     : adapters_(std::make_unique<Adapters>(folder)) {
   Adapters& all = *adapters_;
   platform_ = std::make_unique<Platform>(Platform{all.LocalSystem, all.Files, all.Registry, all.Profiles, all.Data,
-                                                  *all.Services, all.EventLogs, all.LabEvents, all.Net, all.Directory,
+                                                  *all.Services, all.EventLogs, *all.Events, all.Net, all.Directory,
                                                   all.Units, *all.Echo, all.Launcher, all.Instance, host,
                                                   [&all] { return std::make_unique<LabDirectoryApi>(all.Network); },
                                                   [&all] { return std::make_unique<LabChannelReader>(all.Network); }});
