@@ -14,10 +14,12 @@
 
 #include "adapters/qt/FormView.h"
 #include "adapters/qt/QtHost.h"
+#include "admin/frmServiceAccount.h"
 #include "app/assembly/InstalledPlatform.h"
 #include "app/installation/Installation.h"
 #include "core/console/Console.h"
 #include "core/console/frmBegin.h"
+#include "core/console/frmControlService.h"
 #include "core/console/frmLogView.h"
 #include "core/console/frmStartup.h"
 #include "domains/CustomDomains.h"
@@ -77,14 +79,17 @@ void FormsTest::ForEachForm(const std::function<void(ui::Form&)>& visit) {
   frmDomainChooser domain(State());
   frmComputerEnum computers(State());
   frmCustomDomainManager mappings(State());
+  frmServiceAccount account(State());
+  frmControlService services(State(), [](Service) {});
   SaveCustomMappings(State(), {{"192.0.2.77", "BRANCH"}, {"KIOSK1", "LOBBY"}, {"SCANNER2", "BRANCH"}});
   State().IsNewLog = true;
   for (ui::Form* form : std::initializer_list<ui::Form*>{&Main(), &begin, &splash, &about, &editor, &events, &domain,
-                                                         &computers, &mappings}) {
+                                                         &computers, &mappings, &account, &services}) {
     form->Load();
     if (form == &about) about.SetAbout(true);
+    if (form == &services) services.InitForm();
     if (form != &Main()) form->Show();
-    QTest::qWait(form == &editor || form == &events ? 400 : 20);
+    QTest::qWait(form == &editor || form == &events || form == &account ? 400 : 20);
     visit(*form);
   }
 }

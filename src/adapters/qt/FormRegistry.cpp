@@ -4,10 +4,12 @@
 #include "ui_frmBegin.h"
 #include "ui_frmCVMain.h"
 #include "ui_frmComputerEnum.h"
+#include "ui_frmControlService.h"
 #include "ui_frmCustomDomainManager.h"
 #include "ui_frmDomainChooser.h"
 #include "ui_frmLogEdit.h"
 #include "ui_frmLogView.h"
+#include "ui_frmServiceAccount.h"
 #include "ui_frmStartup.h"
 
 namespace corvane::qt {
@@ -25,10 +27,12 @@ FormRegistry FormRegistry::Console() {
   forms.Add("frmBegin", {Place<Ui::frmBegin>});
   forms.Add("frmCVMain", {Place<Ui::frmCVMain>});
   forms.Add("frmComputerEnum", {Place<Ui::frmComputerEnum>});
+  forms.Add("frmControlService", {Place<Ui::frmControlService>});
   forms.Add("frmCustomDomainManager", {Place<Ui::frmCustomDomainManager>});
   forms.Add("frmDomainChooser", {Place<Ui::frmDomainChooser>});
   forms.Add("frmLogEdit", {Place<Ui::frmLogEdit>});
   forms.Add("frmLogView", {Place<Ui::frmLogView>});
+  forms.Add("frmServiceAccount", {Place<Ui::frmServiceAccount>});
   forms.Add("frmStartup", {Place<Ui::frmStartup>, WindowFrame::None});
   return forms;
 }
