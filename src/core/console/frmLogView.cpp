@@ -87,7 +87,7 @@ void frmLogView::SetCaptions() {
 }
 
 void frmLogView::SetControls() {
-  lvEvents.Columns = {{"Date/Time", 3000}, {"Description", 9000}};
+  lvEvents.Columns = {{"Date/Time", 3000}, {"Description", 8500}};
   lvEvents.SetMultiSelect(false);
   lvEvents.ItemClick = [this](int) { ClickActiveEvent(); };
   txtDescription.MultiLine = txtDescription.Locked = true;
