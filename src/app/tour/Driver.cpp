@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QRadioButton>
 #include <QTabWidget>
 #include <QTest>
 #include <QToolBar>
@@ -40,7 +41,9 @@ QWidget* Driver::FindWidget(const QString& form, const QString& name) {
 void Driver::Click(const QString& form, const QString& name) {
   auto& widget = Find<QWidget>(form, name);
   if (!widget.isEnabled()) throw Failure(name.toStdString() + " is disabled");
-  QTest::mouseClick(&widget, Qt::LeftButton);
+  // A choice takes clicks on its circle alone.
+  const bool isChoice = qobject_cast<QRadioButton*>(&widget) != nullptr;
+  QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, isChoice ? QPoint(8, widget.height() / 2) : QPoint());
 }
 
 void Driver::ClickTool(const QString& form, const QString& key) {
@@ -65,11 +68,15 @@ void Driver::Choose(QComboBox& box, const QString& text) {
   while (box.currentIndex() != wanted) QTest::keyClick(&box, box.currentIndex() < wanted ? Qt::Key_Down : Qt::Key_Up);
 }
 
-void Driver::Type(QComboBox& box, const QString& text) {
-  box.lineEdit()->setFocus();
-  box.lineEdit()->selectAll();
-  QTest::keyClicks(box.lineEdit(), text);
+void Driver::Type(QComboBox& box, const QString& text) { Type(*box.lineEdit(), text); }
+
+void Driver::Type(QLineEdit& line, const QString& text) {
+  line.setFocus();
+  line.selectAll();
+  QTest::keyClicks(&line, text);
 }
+
+QMessageBox* Driver::Box() { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); }
 
 QModelIndex Driver::Pick(QAbstractItemView& view, const QStringList& path, Qt::KeyboardModifiers keys) {
   QModelIndex index;

@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QString>
 #include <QStringList>
 #include <QWidget>
@@ -34,6 +35,9 @@ class Driver {
   /// Chooses an entry of a box with the keyboard.
   static void Choose(QComboBox& box, const QString& text);
   static void Type(QComboBox& box, const QString& text);
+  static void Type(QLineEdit& line, const QString& text);
+  /// The message box on the screen; null when there is none.
+  static QMessageBox* Box();
   /// Opens branches with the keyboard and clicks the last node of a path.
   static QModelIndex Pick(QAbstractItemView& view, const QStringList& path,
                           Qt::KeyboardModifiers keys = Qt::NoModifier);

@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 #include <QPixmap>
+#include <QPushButton>
+#include <QTest>
 #include <QTimer>
 #include <cstdio>
 
@@ -25,11 +27,22 @@ void Script::On(const QString& form, Act act) {
 }
 
 void Script::Picture(const QString& form, const std::string& name) {
-  On(form, [this, form, name] {
-    const std::string file = folder_ + "/" + PadZero(++pictures_, 2) + "-" + name + ".png";
-    if (!Driver::Window(form)->grab().save(QString::fromStdString(file)))
-      throw Failure("the picture " + file + " cannot be written");
-  });
+  On(form, [this, form, name] { Take(*Driver::Window(form), name); });
+}
+
+void Script::Answer(const QString& title, const std::string& name, QMessageBox::StandardButton button) {
+  When(
+      "the box " + title.toStdString() + " is shown",
+      [title] { return Driver::Box() != nullptr && Driver::Box()->windowTitle() == title; },
+      [this, name, button] {
+        Take(*Driver::Box(), name);
+        QTest::mouseClick(Driver::Box()->button(button), Qt::LeftButton);
+      });
+}
+
+void Script::Take(QWidget& window, const std::string& name) {
+  const std::string file = folder_ + "/" + PadZero(++pictures_, 2) + "-" + name + ".png";
+  if (!window.grab().save(QString::fromStdString(file))) throw Failure("the picture " + file + " cannot be written");
 }
 
 void Script::Start() {

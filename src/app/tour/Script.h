@@ -24,6 +24,8 @@ class Script : public QObject {
   void On(const QString& form, Act act);
   /// Takes a numbered picture of the form's window.
   void Picture(const QString& form, const std::string& name);
+  /// Takes a picture of the message box of that title and presses one of its buttons.
+  void Answer(const QString& title, const std::string& name, QMessageBox::StandardButton button);
 
   void Start();
   /// Empty when every step was done.
@@ -36,6 +38,7 @@ class Script : public QObject {
     Act Do;
   };
 
+  void Take(QWidget& window, const std::string& name);
   void Advance();
   void Fail(const std::string& why);
 

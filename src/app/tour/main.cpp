@@ -1,29 +1,43 @@
 #include <QApplication>
 #include <cstdio>
 #include <filesystem>
+#include <map>
+#include <string>
 
 #include "adapters/qt/QtHost.h"
 #include "adapters/qt/look/Look.h"
 #include "app/assembly/InstalledPlatform.h"
 #include "app/assembly/RunConsole.h"
 #include "app/installation/Installation.h"
+#include "app/tour/Commands.h"
+#include "app/tour/FirstRun.h"
 #include "app/tour/MainJob.h"
 #include "app/tour/Script.h"
 #include "platform/RuntimeError.h"
 
-// Drives the real window of an installation through the main job and leaves pictures of each step.
+namespace {
+
+using AddSteps = void (*)(corvane::tour::Script&);
+
+const std::map<std::string, AddSteps> Tours{{"first-run", corvane::tour::AddFirstRun},
+                                            {"main-job", corvane::tour::AddMainJob},
+                                            {"commands", corvane::tour::AddCommands}};
+
+}  // namespace
+
+// Drives the real window of an installation through one of the tours and leaves pictures of each step.
 int main(int count, char** arguments) {
   QApplication application(count, arguments);
-  if (count != 3) {
-    std::fprintf(stderr, "usage: corvane-tour INSTALLATION PICTURES\n");
+  if (count != 4 || Tours.count(arguments[1]) == 0) {
+    std::fprintf(stderr, "usage: corvane-tour first-run|main-job|commands INSTALLATION PICTURES\n");
     return 2;
   }
-  const std::filesystem::path folder = arguments[1];
-  std::filesystem::create_directories(arguments[2]);
+  const std::filesystem::path folder = arguments[2];
+  std::filesystem::create_directories(arguments[3]);
   corvane::qt::SetUpLook(corvane::qt::Scheme::Light);
   corvane::qt::QtHost host(corvane::qt::FormRegistry::Console(), (folder / corvane::Installation::HelpFolder).string());
-  corvane::tour::Script script(arguments[2]);
-  corvane::tour::AddMainJob(script);
+  corvane::tour::Script script(arguments[3]);
+  Tours.at(arguments[1])(script);
   script.Start();
   try {
     corvane::InstalledPlatform installed(folder, host);

@@ -29,18 +29,19 @@ void ToolbarBinding::Build() {
     if (button.Separator) continue;
     action->setObjectName(ToQt(button.Key));
     connect(action, &QAction::triggered, this, [this, key = button.Key] { Pressed(key); });
-    if (!button.Items.empty()) AddMenu(*action, button);
+    auto* widget = qobject_cast<QToolButton*>(bar_->widgetForAction(action));
+    if (button.Caption.empty()) widget->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    if (!button.Items.empty()) AddMenu(*widget, button);
   }
 }
 
-void ToolbarBinding::AddMenu(QAction& action, const ui::ToolButton& button) {
-  auto* widget = qobject_cast<QToolButton*>(bar_->widgetForAction(&action));
-  auto* menu = new QMenu(widget);
+void ToolbarBinding::AddMenu(QToolButton& widget, const ui::ToolButton& button) {
+  auto* menu = new QMenu(&widget);
   for (const ui::ToolItem& item : button.Items)
     connect(menu->addAction(ToQt(item.Caption)), &QAction::triggered, this,
             [this, click = item.Click] { Fire(click); });
-  widget->setMenu(menu);
-  widget->setPopupMode(QToolButton::MenuButtonPopup);
+  widget.setMenu(menu);
+  widget.setPopupMode(QToolButton::MenuButtonPopup);
 }
 
 void ToolbarBinding::Pressed(const std::string& key) {

@@ -8,6 +8,7 @@
 
 class QAction;
 class QToolBar;
+class QToolButton;
 
 namespace corvane::qt {
 
@@ -21,7 +22,7 @@ class ToolbarBinding : public Binding {
  private:
   void Build();
   void Pressed(const std::string& key);
-  void AddMenu(QAction& action, const ui::ToolButton& button);
+  void AddMenu(QToolButton& widget, const ui::ToolButton& button);
 
   ui::Toolbar& control_;
   QToolBar* bar_;

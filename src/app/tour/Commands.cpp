@@ -1,0 +1,70 @@
+#include "app/tour/Commands.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+
+#include "app/tour/Script.h"
+
+namespace corvane::tour {
+namespace {
+
+constexpr const char* Main = "frmCVMain";
+constexpr const char* Viewer = "frmLogView";
+constexpr const char* Manager = "frmCustomDomainManager";
+
+QAbstractItemView& View(const char* form, const char* name) { return Driver::Find<QAbstractItemView>(form, name); }
+
+void StartTheService(Script& script) {
+  const char* control = "frmControlService";
+  script.On(Main, [] { Driver::ClickTool(Main, "startservice"); });
+  script.Picture(control, "start-a-service");
+  script.On(control, [=] { Driver::Click(control, "cmdAction"); });
+  script.Answer("Corvane", "service-started", QMessageBox::Ok);
+}
+
+void MapComputers(Script& script) {
+  script.On(Main, [] { Driver::ClickTool(Main, "customdomains"); });
+  for (const auto& [computer, domain] : {std::pair("kiosk 1", "lobby"), std::pair("192.0.2.77", "branch")})
+    script.On(Manager, [=] {
+      Driver::Type(Driver::Find<QLineEdit>(Manager, "txtComputer"), computer);
+      Driver::Type(Driver::Find<QLineEdit>(Manager, "txtDomain"), domain);
+      Driver::Click(Manager, "cmdAdd");
+    });
+  script.Picture(Manager, "custom-domains");
+  script.On(Manager, [] { Driver::Click(Manager, "cmdOK"); });
+  script.When(
+      "the custom domains are listed",
+      [] { return Driver::Find<QComboBox>(Main, "lstDomain").findText("CUSTOM: BRANCH") >= 0; }, [] {});
+}
+
+void ReadTheEvents(Script& script) {
+  script.On(Main, [] { Driver::ClickTool(Main, "viewlogentries"); });
+  script.When(
+      "the events are read",
+      [] { return Driver::Window(Viewer) != nullptr && View(Viewer, "lvEvents").model()->rowCount() > 0; }, [] {});
+  script.Picture(Viewer, "log-entries");
+  script.On(Viewer, [] { Driver::Click(Viewer, "cmdClose"); });
+}
+
+void StopWatching(Script& script) {
+  script.On(Main, [] {
+    Driver::Pick(View(Main, "lvwComputers"), {"MERFILE01"});
+    Driver::ClickTool(Main, "delete");
+  });
+  script.Answer("Corvane", "stop-watching", QMessageBox::Yes);
+  script.When(
+      "the list is empty", [] { return View(Main, "lvwComputers").model()->rowCount() == 0; }, [] {});
+  script.Picture(Main, "main-window-running");
+  script.On(Main, [] { Driver::Window(Main)->close(); });
+}
+
+}  // namespace
+
+void AddCommands(Script& script) {
+  StartTheService(script);
+  MapComputers(script);
+  ReadTheEvents(script);
+  StopWatching(script);
+}
+
+}  // namespace corvane::tour
