@@ -65,20 +65,20 @@ class JournalTest : public testing::Test {
 };
 
 TEST_F(JournalTest, RecordsComeNewestFirstAndWhateverTheyHoldIsText) {
-  const fs::path file =
-      Make("all.journal",
-           {
-               {{"SYSLOG_IDENTIFIER", "Corvane Service"}, {"PRIORITY", "3"}, {"MESSAGE", "a\nb\r\nc\rd\n"}},
-               {{"SYSLOG_IDENTIFIER", " x "}, {"PRIORITY", "4"}, {"MESSAGE", ""}},
-               {{"PRIORITY", "5"}},
-               {{"SYSLOG_IDENTIFIER", "\xFF"}, {"PRIORITY", "33"}, {"MESSAGE", std::string("\0z\x1B", 3)}},
-               {{"PRIORITY", "0"},
-                {"MESSAGE", "\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80 \xC0\xAF \xED\xA0\x80 \xF4\x90\x80\x80 \xE2\x82"}},
-               {{"MESSAGE", std::string(JournalEventReader::LongestMessage + 1, 'x')}},
-           });
+  const fs::path file = Make(
+      "all.journal",
+      {
+          {{"SYSLOG_IDENTIFIER", "Corvane Service"}, {"PRIORITY", "3"}, {"MESSAGE", "a\nb\r\nc\rd\n"}},
+          {{"SYSLOG_IDENTIFIER", " x "}, {"PRIORITY", "4"}, {"MESSAGE", ""}},
+          {{"PRIORITY", "5"}},
+          {{"SYSLOG_IDENTIFIER", "\xFF"}, {"PRIORITY", "33"}, {"MESSAGE", std::string("\0z\x1B", 3)}},
+          {{"PRIORITY", "0"},
+           {"MESSAGE", "\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80 \xE0\x80\xAF \xED\xA0\x80 \xF4\x90\x80\x80 \xE2\x82"}},
+          {{"MESSAGE", std::string(JournalEventReader::LongestMessage + 1, 'x')}},
+      });
   const std::string r = "\xEF\xBF\xBD";
   EXPECT_EQ(All(file), "|Information|Sun Oct 25 02:00:03 2026|" + std::string(JournalEventReader::LongestMessage, 'x') +
-                           "\n" + "|Error|Sun Oct 25 02:00:02 2026|\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80 " + r + r +
+                           "\n" + "|Error|Sun Oct 25 02:00:02 2026|\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80 " + r + r + r +
                            " " + r + r + r + " " + r + r + r + r + " " + r + r + "\n" + r +
                            "|Information|Sun Oct 25 02:00:01 2026|" + r +
                            "z\x1B\n"
