@@ -141,6 +141,7 @@ void frmLogView::EnableControls(bool on) {
 void frmLogView::FetchCVServiceEvents() {
   events_.Release();
   EventReader& reader = main_.Platform.EventReader;
+  reader.NarrowTo(ServiceSource);
   if (!reader.Open(main_.Platform.System.ComputerName().value_or(""), EventReader::ApplicationLog)) {
     main_.Ui.MsgBox("Corvane could not open the local application log to view events recorded by the Corvane Service.",
                     ui::MsgIcon::Exclamation);
