@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -24,7 +25,6 @@ class ServiceEvents {
   void Release() { std::vector<ServiceEvent>().swap(events_); }
   void Add(ServiceEvent event);
 
-  std::size_t Count() const { return events_.size(); }
   auto begin() const { return events_.begin(); }
   auto end() const { return events_.end(); }
 
