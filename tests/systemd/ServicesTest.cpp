@@ -49,6 +49,8 @@ TEST_F(ServicesTest, StatesAreThoseOfTheUnit) {
   };
   for (const auto& [name, state] : cases) EXPECT_EQ(State(Open(name)), state) << name;
   for (const char* name : {"missing", "hidden", ""}) EXPECT_EQ(Open(name), 0u) << name;
+  ::setenv("DBUS_SYSTEM_BUS_ADDRESS", Bus.Address().c_str(), 1);
+  EXPECT_NE(SystemdServiceManager("system", UnitOf).OpenManager(service::Connect), 0u);
 }
 
 TEST_F(ServicesTest, RequestsAreDeliveredAndNotAwaited) {
