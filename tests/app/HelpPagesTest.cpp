@@ -1,9 +1,13 @@
 #include <gtest/gtest.h>
 
+#include "admin/frmServiceAccount.h"
 #include "app/installation/TextFile.h"
 #include "core/console/frmBegin.h"
 #include "core/console/frmCVMain.h"
 #include "core/console/frmLogView.h"
+#include "domains/frmComputerEnum.h"
+#include "domains/frmCustomDomainManager.h"
+#include "domains/frmDomainChooser.h"
 #include "logs/frmLogEdit.h"
 #include "support/TestConsole.h"
 
@@ -18,7 +22,12 @@ TEST(HelpPagesTest, EveryScreenHasItsPage) {
   const frmBegin begin(console.App.State());
   const frmLogEdit editor(console.App.State());
   const frmLogView events(console.App.State());
-  for (const ui::Form* form : std::initializer_list<const ui::Form*>{&begin, &console.Window(), &editor, &events})
+  const frmDomainChooser domain(console.App.State());
+  const frmComputerEnum computers(console.App.State());
+  const frmCustomDomainManager mappings(console.App.State());
+  const frmServiceAccount account(console.App.State());
+  for (const ui::Form* form : std::initializer_list<const ui::Form*>{&begin, &console.Window(), &editor, &events,
+                                                                     &domain, &computers, &mappings, &account})
     EXPECT_TRUE(fs::exists(console.Folder() / "help" / (std::to_string(form->HelpContext) + ".html"))) << form->Name();
 }
 

@@ -41,17 +41,6 @@ class CustomDomains : public testing::Test {
   ui::ComboBox Box{Form, "lstDomain"};
 };
 
-TEST_F(CustomDomains, MakeTheirFileWhereItIsMissingOrEmpty) {
-  const std::string fresh = "[General]\r\nNumComputers=0\r\n";
-  std::filesystem::remove(File);
-  LoadCustomDomains(Console.App.State(), Box);
-  EXPECT_EQ(fresh, Read());
-  Write("");
-  EXPECT_EQ(Names{}, ComputersOf("BRANCH"));
-  EXPECT_EQ(fresh, Read());
-  EXPECT_EQ(0, Box.Count());
-}
-
 TEST_F(CustomDomains, ReplaceThoseOfTheBoxByThoseOfTheFile) {
   Write(Mappings);
   for (const char* entry : {"CUSTOM: OLD", "MERIDIAN", "x CUSTOM:", "CUSTOM: BRANCH", "custom: kept"})

@@ -1,0 +1,207 @@
+#include <gtest/gtest.h>
+
+#include "app/installation/TextFile.h"
+#include "core/Settings.h"
+#include "core/modMain.h"
+#include "domains/Computers.h"
+#include "domains/CustomDomains.h"
+#include "domains/frmComputerEnum.h"
+#include "domains/frmCustomDomainManager.h"
+#include "domains/frmDomainChooser.h"
+#include "support/ChildProcess.h"
+#include "support/TestConsole.h"
+
+namespace corvane::test {
+namespace {
+
+using ui::MsgResult;
+
+class DomainScreens : public testing::Test {
+ protected:
+  void Prepare(int version, const std::string& domain) {
+    Main.HasDirectoryApi = version >= 5;
+    Main.DirectoryApi = Main.HasDirectoryApi ? Console.Ports.CreateDirectoryApi() : nullptr;
+    Main.SaveSetting("DefaultDomain", domain);
+  }
+  void Edit(const std::function<void(frmCustomDomainManager&)>& act) {
+    frmCustomDomainManager form(Main);
+    form.Load();
+    act(form);
+    Host.Click(form.cmdOK);
+  }
+  void Add(frmCustomDomainManager& form, const std::string& computer, const std::string& domain) {
+    form.txtComputer.Text = computer;
+    form.txtDomain.Text = domain;
+    Host.Click(form.cmdAdd);
+  }
+  void Remove(frmCustomDomainManager& form, int row, MsgResult answer = MsgResult::Yes) {
+    Host.SelectOnly(form.lvwComputers, row);
+    Host.OnBox("Are you sure you want to delete one or more computer/domain mappings from the custom view?", answer);
+    Host.Click(form.cmdRemove);
+  }
+  std::string Mappings() { return ReadTextFile(File); }
+
+  TestConsole Console;
+  ScriptedHost& Host = Console.Host;
+  modMain& Main = Console.App.State();
+  std::filesystem::path File = Console.Folder() / "cdomain.ini";
+};
+
+TEST_F(DomainScreens, ADefaultDomainIsSavedByItsFlatNameInCapitals) {
+  const std::string workgroup = "NetBIOS (e.g. MYWORKGROUP) formatted name of your primary workgroup";
+  const std::string flat = "NetBIOS (e.g. MYDOMAIN) formatted name of your primary domain";
+  const std::string dns = "DNS (e.g. mydomain.example) or " + flat;
+  const char* const empty =
+      "You must enter a default domain/workgroup name before continuing.  Press 'F1' for additional help.";
+  const char* const unknown =
+      "Corvane could not locate the domain controller for the domain you have entered.  Please make sure your domain "
+      "is spelled correctly.";
+  const char* const dotted =
+      "You must enter the NetBIOS name of the domain (e.g. MYDOMAIN) before continuing.  Does the NetBIOS name of your "
+      "domain contain a period (uncommon)?  If so, press 'Yes' to continue, 'No' to re-enter the NetBIOS name.";
+  const struct {
+    int Version, Managing;
+    std::string Stored, Shown, Help;
+    const char *Typed, *Box;
+    MsgResult Answer;
+    std::string Saved;
+  } cases[] = {{6, 1, "", "MERIDIAN", dns, "", empty, MsgResult::Ok, ""},
+               {4, 1, "", "", flat, "Mispelt", nullptr, MsgResult::Ok, "MISPELT"},
+               {5, 1, "DEPOT", "DEPOT", dns, "harbor.Example", nullptr, MsgResult::Ok, "HARBOR"},
+               {6, 2, "", "", workgroup, "harbor.example", nullptr, MsgResult::Ok, "HARBOR"},
+               {6, 0, "SHED", "SHED", workgroup, "a.b", unknown, MsgResult::Ok, "SHED"},
+               {4, 1, "DEPOT", "DEPOT", flat, "a.b", dotted, MsgResult::Yes, "A.B"},
+               {4, 0, "SHED", "SHED", workgroup, "a.b", dotted, MsgResult::No, "SHED"}};
+  for (const auto& c : cases) {
+    Prepare(c.Version, c.Stored);
+    Main.Registry.SetKeyValue(SettingsKey, "ManagingADomain", c.Managing, registry::Number);
+    frmDomainChooser form(Main);
+    form.Load();
+    EXPECT_EQ(c.Shown + "Enter the " + c.Help + ", and press 'OK.'  Press 'F1' for additional help.",
+              form.txtStartupDomain.Text + form.lblInstructions.Caption);
+    // The name is looked up by a directory of its own.
+    Main.DirectoryApi.reset();
+    form.txtStartupDomain.Text = c.Typed;
+    if (c.Box) Host.OnBox(c.Box, c.Answer);
+    Host.Click(form.cmdOK);
+    EXPECT_EQ(c.Saved, Main.Setting("DefaultDomain"));
+    EXPECT_EQ(c.Saved != c.Stored, form.IsUnloaded());
+    EXPECT_EQ(c.Managing == 1, Main.SettingNumber("ManagingADomain") == 1);
+  }
+}
+
+TEST_F(DomainScreens, CancelEndsAFirstRunIfTheUserSaysSo) {
+  frmDomainChooser form(Main);
+  form.IsFirstRun = true;
+  for (const MsgResult answer : {MsgResult::No, MsgResult::Yes})
+    Host.OnBox("You must select a domain or workgroup to continue.  Would you like to end this application now?",
+               answer);
+  form.CloseBox();
+  EXPECT_THROW(form.CloseBox(), ui::ProgramEnd);
+  EXPECT_FALSE(form.IsUnloaded());
+}
+
+TEST_F(DomainScreens, AUnitThatWasChosenGivesItsComputers) {
+  Prepare(6, "MERIDIAN");
+  Host.OnBox("You must select an organizational unit with the current computer retrieval option selected!");
+  Host.OnChooseContainer([](const ui::Container& root, const ui::ContainersOf& containersOf) {
+    return containersOf(containersOf(root.Path).at(2).Path).at(2);
+  });
+  frmComputerEnum form(Main);
+  form.Load();
+  Host.Choose(form.optRetrieve[2]);
+  for (ui::CommandButton* button : {&form.cmdOK, &form.cmdBrowse, &form.cmdOK}) Host.Click(*button);
+  std::string computers;
+  ForEachComputer(Main, "MERIDIAN", true, [&](const std::string& name) { computers += " " + name; });
+  EXPECT_EQ("2 MERWEB01 MERWEB02 MERWEB03", Main.Setting("ComputerEnum") + computers);
+  struct {
+    int Version;
+    const char *Domain, *Source, *Box;
+    int Chosen;
+  } const cases[] = {
+      {6, "", "2", "You must enter a default domain before attempting to choose an organizational unit!", 2},
+      {5, "FIELDLAB", "2",
+       "An Active Directory server for domain FIELDLAB could not be located.  Please enter a valid domain name "
+       "(Options "
+       "Menu -> Mirelle Preferences) and try again.",
+       2},
+      {6, "MERIDIAN", "2",
+       "You did not select an organizational unit or container.  Please select one if you wish to use this option.", 2},
+      {6, "", "7", nullptr, 0},
+      {4, "MERIDIAN", "2", nullptr, 0}};
+  Host.OnChooseContainer([](const auto&, const auto&) { return std::nullopt; });
+  for (const auto& c : cases) {
+    Prepare(c.Version, c.Domain);
+    Main.SaveSetting("ComputerEnum", c.Source);
+    frmComputerEnum again(Main);
+    again.Load();
+    EXPECT_EQ(c.Chosen, ui::ChosenOption(again.optRetrieve));
+    EXPECT_EQ(c.Version >= 5, again.optRetrieve[2].Enabled);
+    EXPECT_EQ(c.Chosen == 2, again.txtOU.Enabled && again.cmdBrowse.Enabled);
+    if (c.Box) Host.OnBox(c.Box), Host.Click(again.cmdBrowse);
+    const bool cancelled = c.Box && *c.Domain == 'M';
+    EXPECT_EQ(*c.Source == '2' && !cancelled ? "Web" : "", again.txtOU.Text);
+  }
+}
+
+TEST_F(DomainScreens, MappingsAreWrittenOverTheFormerOnesAndShownInTheMainWindow) {
+  Console.Start();
+  Console.Rows("INSERT INTO RegisteredServers VALUES ('A1', 'CUSTOM: KEPT', 'A', 1, 0, 0, 0, 0)");
+  for (const bool missing : {true, false}) {
+    missing ? std::filesystem::remove(File) : std::ofstream(File).good();
+    EXPECT_EQ(0u, LoadCustomMappings(Main).size());
+    EXPECT_EQ("[General]\r\nNumComputers=0\r\n", Mappings());
+  }
+  Edit([&](auto& form) {
+    for (const char* computer : {"b", "192.0.2.7", "", "a_x"}) Add(form, computer, "gone");
+    Add(form, "c", "");
+  });
+  const std::string start = "[General]\r\nNumComputers=", head = "\r\n[Computers]\r\nComputer1=";
+  const std::string stale = "\r\nComputer2=192.0.2.7|GONE\r\nComputer3=A_X|GONE\r\n";
+  EXPECT_EQ(start + "3" + head + "B|GONE" + stale, Mappings());
+  Console.ChooseDomain("CUSTOM: GONE");
+  Edit([&](auto& form) {
+    Host.OnBox(
+        "Computer B has already been mapped to a custom domain.  To remap it, remove it before adding it again.");
+    Add(form, "b", "other");
+    Add(form, "a", "x_gone");
+    for (const char* first : {"192.0.2.7", "B"}) {
+      form.lvwComputers.ColumnClick(0);
+      EXPECT_EQ(first, form.lvwComputers.Item(0).Text);
+    }
+    Remove(form, 0, MsgResult::No);
+    EXPECT_EQ(4, form.lvwComputers.Count()) << "two of them come to one key";
+    for (int i = 0; i < 4; ++i) Remove(form, 0);
+    Add(form, "a", "kept");
+  });
+  EXPECT_EQ(start + "1" + head + "A|KEPT" + stale, Mappings());
+  EXPECT_EQ("MERIDIAN", Console.Window().lstDomain.Text());
+  Console.ChooseDomain("CUSTOM: KEPT");
+  Edit([&](auto& form) { Remove(form, 0); });
+  EXPECT_EQ("CUSTOM: KEPT", Console.Window().lstDomain.Text()) << "a log of it is still watched";
+  EXPECT_EQ(1, Console.Window().lvwComputers.Count());
+}
+
+TEST_F(DomainScreens, NamesRefuseWithABeepWhatStatementsAndFilesCannotHold) {
+  frmCustomDomainManager form(Main);
+  int beeps = 0;
+  for (char32_t character = 1; character < 300; ++character) {
+    const bool refused = std::u32string_view(U" \"#$%&'()*+,/").find(character) != std::u32string_view::npos;
+    EXPECT_TRUE(form.txtComputer.KeyPress(character) != refused && form.txtDomain.KeyPress(character) != refused);
+    EXPECT_EQ(beeps += refused ? 2 : 0, Host.Beeps);
+  }
+}
+
+TEST_F(DomainScreens, NothingIsLostWhereNothingCanBeWritten) {
+  const auto save = [&] { return SaveCustomMappings(Main, {{"X", "N"}, {std::string(200, 'Y'), "N"}, {"Z", "N"}}), 0; };
+  SaveCustomMappings(Main, {{"A", "OLD"}, {"B", "OLD"}});
+  const std::string before = Mappings();
+  std::filesystem::permissions(Console.Folder().parent_path(), std::filesystem::perms(0755));
+  EXPECT_EQ(0, AsNobody(File, 0444, 0555, save));
+  EXPECT_EQ(before, Mappings());
+  EXPECT_EQ(0, OnFullDisk(150, save));
+  EXPECT_EQ("[General]\r\nNumComputers=2\r\n[Computers]\r\nComputer1=X|N\r\nComputer2=B|OLD\r\n", Mappings());
+}
+
+}  // namespace
+}  // namespace corvane::test
