@@ -148,7 +148,8 @@ TEST_F(DomainScreens, MappingsAreWrittenOverTheFormerOnesAndShownInTheMainWindow
   Console.Start();
   Console.Rows("INSERT INTO RegisteredServers VALUES ('A1', 'CUSTOM: KEPT', 'A', 1, 0, 0, 0, 0)");
   for (const bool missing : {true, false}) {
-    missing ? std::filesystem::remove(File) : std::ofstream(File).good();
+    std::filesystem::remove(File);
+    if (!missing) std::ofstream{File};
     EXPECT_EQ(0u, LoadCustomMappings(Main).size());
     EXPECT_EQ("[General]\r\nNumComputers=0\r\n", Mappings());
   }
