@@ -1,8 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "core/console/frmControlService.h"
 #include "platform/Launcher.h"
 #include "support/ReplacedPorts.h"
+#include "support/Switchboard.h"
 #include "support/TestConsole.h"
 
 namespace corvane::test {
@@ -22,6 +25,12 @@ class CommandsTest : public ::testing::Test {
     host.SelectOnly(window().lvwComputers, 0);
   }
   frmCVMain& window() { return app.MainWindow(); }
+  ui::MenuItem& Item(const std::string& name) {
+    for (ui::Control* control : window().Controls())
+      if (control->Kind() == ui::ControlKind::MenuItem && control->Name() == name)
+        return static_cast<ui::MenuItem&>(*control);
+    throw std::runtime_error("no item " + name);
+  }
   void SetService(const std::string& name, const std::string& state, const std::string& refuses = "nothing") {
     console.SetLab("Service " + name, "State", state);
     console.SetLab("Service " + name, "Until", "0");
@@ -39,35 +48,38 @@ class CommandsTest : public ::testing::Test {
   Console app{ports};
 };
 
-// Every command by each way to it: key of the toolbar, menu and pop-up menu.
 TEST_F(CommandsTest, EveryWayLeadsToItsScreen) {
-  frmCVMain& main = window();
-  const struct {
-    const char *Key, *Form;
-    std::vector<ui::MenuItem*> Items;
-  } commands[] = {{"add", "frmLogEdit", {&main.mnuFileAdd, &main.mnuHiddenAdd}},
-                  {"edit", "frmLogEdit", {&main.mnuFileEdit, &main.mnuHiddenEdit}},
-                  {"viewlogentries", "frmLogView", {&main.mnuToolsViewLogEntries}},
-                  {"setserviceaccount", "frmServiceAccount", {&main.mnuOptionsServiceAccount}},
-                  {"startservice", "frmControlService", {}},
-                  {"stopservice", "frmControlService", {}},
-                  {"setdefaultdomain", "frmDomainChooser", {&main.mnuOptionsDefaultDomain}},
-                  {"customdomains", "frmCustomDomainManager", {&main.mnuOptionsCustomDomains}},
-                  {"retrievecomputersfrom", "frmComputerEnum", {&main.mnuOptionsComputerNames}}};
   app.State().SaveSetting("Created", "1");
-  for (const auto& command : commands) {
-    SCOPED_TRACE(command.Key);
-    const auto shown = [&](const std::function<void()>& act) {
+  for (const Command& command : Switchboard) {
+    if (command.Form.empty()) continue;
+    const auto opens = [&](const std::function<void()>& act) {
       host.OnModal(command.Form, [](ui::Form& form) { form.CloseBox(); });
       act();
-      host.SelectOnly(main.lvwComputers, 0);
+      host.SelectOnly(window().lvwComputers, 0);
     };
-    shown([&] { host.Press(main.tbrMain, command.Key); });
-    for (ui::MenuItem* item : command.Items) shown([&] { host.Click(*item); });
+    if (!command.Key.empty()) opens([&] { host.Press(window().tbrMain, command.Key); });
+    for (const std::string& name : command.Items) opens([&] { host.Click(Item(name)); });
   }
   // Keys of the toolbar are compared without regard to case.
   host.OnModal("frmControlService", [](ui::Form& form) { form.CloseBox(); });
-  main.tbrMain.ButtonClick("StartService");
+  window().tbrMain.ButtonClick("StartService");
+}
+
+// No button and no item is there that the switchboard does not know.
+TEST_F(CommandsTest, NothingLeadsNowhere) {
+  std::set<std::string> keys, items;
+  for (const Command& command : Switchboard) {
+    keys.insert(command.Key);
+    items.insert(command.Items.begin(), command.Items.end());
+  }
+  for (const ui::ToolButton& button : window().tbrMain.Buttons) EXPECT_EQ(1U, keys.count(button.Key)) << button.Key;
+  for (const ui::Control* control : window().Controls()) {
+    if (control->Kind() != ui::ControlKind::MenuItem) continue;
+    const auto& item = static_cast<const ui::MenuItem&>(*control);
+    if (!item.Items.empty() || item.Caption == "-") continue;
+    EXPECT_EQ(1U, items.count(std::string(item.Name()))) << item.Name();
+    EXPECT_TRUE(item.Click) << item.Name();
+  }
 }
 
 TEST_F(CommandsTest, OtherCommandsActAtOnce) {

@@ -12,12 +12,8 @@
 #include <functional>
 #include <set>
 
-#include "adapters/qt/FormView.h"
-#include "adapters/qt/QtHost.h"
+#include "StartedConsole.h"
 #include "admin/frmServiceAccount.h"
-#include "app/assembly/InstalledPlatform.h"
-#include "app/installation/Installation.h"
-#include "core/console/Console.h"
 #include "core/console/frmBegin.h"
 #include "core/console/frmControlService.h"
 #include "core/console/frmLogView.h"
@@ -27,27 +23,12 @@
 #include "domains/frmCustomDomainManager.h"
 #include "domains/frmDomainChooser.h"
 #include "logs/frmLogEdit.h"
-#include "support/TempFolder.h"
 
 namespace corvane::test {
 
-/// A console on a fresh installation, started with its real windows.
 class FormsTest : public ::testing::Test {
  protected:
-  struct Started {
-    Started()
-        : Installed((Installation(CORVANE_SOURCE_DIR "/data").LayOut(Folder, Installation::Kind::Lab), Folder), Host),
-          App(Installed.Ports()) {
-      App.Main();
-    }
-    TempFolder Place;
-    std::filesystem::path Folder = Place.Path() / "installation";
-    qt::QtHost Host{qt::FormRegistry::Console(), CORVANE_SOURCE_DIR "/data/help"};
-    InstalledPlatform Installed;
-    Console App;
-  };
-
-  static void SetUpTestSuite() { Running = new Started; }
+  static void SetUpTestSuite() { Running = new StartedConsole; }
   static void TearDownTestSuite() {
     delete Running;
     Running = nullptr;
@@ -56,7 +37,7 @@ class FormsTest : public ::testing::Test {
   static qt::QtHost& Host() { return Running->Host; }
   static modMain& State() { return Running->App.State(); }
   static frmCVMain& Main() { return Running->App.MainWindow(); }
-  static QWidget& Window(const ui::Form& form) { return Host().ViewOf(form)->Window(); }
+  static QWidget& Window(const ui::Form& form) { return Running->Window(form); }
   static QTreeView& View(const ui::Control& control) {
     return *Window(control.Parent()).findChild<QTreeView*>(QString::fromStdString(std::string(control.Name())));
   }
@@ -66,10 +47,10 @@ class FormsTest : public ::testing::Test {
   static void ForEachPage(ui::Form& form, const std::function<void()>& visit);
 
  private:
-  static Started* Running;
+  static StartedConsole* Running;
 };
 
-FormsTest::Started* FormsTest::Running = nullptr;
+StartedConsole* FormsTest::Running = nullptr;
 
 void FormsTest::ForEachForm(const std::function<void(ui::Form&)>& visit) {
   frmBegin begin(State());
