@@ -11,6 +11,7 @@
 #include "app/installation/Installation.h"
 #include "app/tour/Commands.h"
 #include "app/tour/FirstRun.h"
+#include "app/tour/HelpPictures.h"
 #include "app/tour/MainJob.h"
 #include "app/tour/Script.h"
 #include "platform/RuntimeError.h"
@@ -21,7 +22,8 @@ using AddSteps = void (*)(corvane::tour::Script&);
 
 const std::map<std::string, AddSteps> Tours{{"first-run", corvane::tour::AddFirstRun},
                                             {"main-job", corvane::tour::AddMainJob},
-                                            {"commands", corvane::tour::AddCommands}};
+                                            {"commands", corvane::tour::AddCommands},
+                                            {"help", corvane::tour::AddHelpPictures}};
 
 }  // namespace
 
@@ -29,7 +31,7 @@ const std::map<std::string, AddSteps> Tours{{"first-run", corvane::tour::AddFirs
 int main(int count, char** arguments) {
   QApplication application(count, arguments);
   if (count != 4 || Tours.count(arguments[1]) == 0) {
-    std::fprintf(stderr, "usage: corvane-tour first-run|main-job|commands INSTALLATION PICTURES\n");
+    std::fprintf(stderr, "usage: corvane-tour first-run|main-job|commands|help INSTALLATION PICTURES\n");
     return 2;
   }
   const std::filesystem::path folder = arguments[2];
