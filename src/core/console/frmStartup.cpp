@@ -7,6 +7,7 @@
 namespace corvane {
 namespace {
 
+constexpr int HelpTopic = 170;
 constexpr int Stages = 3;
 
 std::string CopyrightOf(int year) {
@@ -18,6 +19,7 @@ std::string CopyrightOf(int year) {
 
 frmStartup::frmStartup(modMain& main) : Form(main.Ui, "frmStartup"), main_(main) {
   Caption = "About Corvane";
+  HelpContext = HelpTopic;
   imgStartup.Picture = "startup";
   lblProduct.Caption = "Corvane";
   lblStartupInfo[0].Index = 0;
