@@ -1,14 +1,9 @@
 #include <gtest/gtest.h>
 
-#include "admin/frmServiceAccount.h"
+#include <map>
+#include <set>
+
 #include "app/installation/TextFile.h"
-#include "core/console/frmBegin.h"
-#include "core/console/frmCVMain.h"
-#include "core/console/frmLogView.h"
-#include "domains/frmComputerEnum.h"
-#include "domains/frmCustomDomainManager.h"
-#include "domains/frmDomainChooser.h"
-#include "logs/frmLogEdit.h"
 #include "support/TestConsole.h"
 
 namespace corvane::test {
@@ -16,35 +11,52 @@ namespace {
 
 namespace fs = std::filesystem;
 
-TEST(HelpPagesTest, EveryScreenHasItsPage) {
-  TestConsole console;
-  console.Start();
-  const frmBegin begin(console.App.State());
-  const frmLogEdit editor(console.App.State());
-  const frmLogView events(console.App.State());
-  const frmDomainChooser domain(console.App.State());
-  const frmComputerEnum computers(console.App.State());
-  const frmCustomDomainManager mappings(console.App.State());
-  const frmServiceAccount account(console.App.State());
-  for (const ui::Form* form : std::initializer_list<const ui::Form*>{&begin, &console.Window(), &editor, &events,
-                                                                     &domain, &computers, &mappings, &account})
-    EXPECT_TRUE(fs::exists(console.Folder() / "help" / (std::to_string(form->HelpContext) + ".html"))) << form->Name();
-}
+// Pages as an installation has them. That each screen has one, and F1 opens it, is tested with the real windows.
+class HelpPagesTest : public ::testing::Test {
+ protected:
+  using Names = std::set<std::string>;
 
-// The help window opens nothing outside its folder, so a link elsewhere would lead nowhere.
-TEST(HelpPagesTest, EveryLinkLeadsToAFileOfTheFolder) {
-  const TestConsole console;
-  const fs::path help = console.Folder() / "help";
-  EXPECT_TRUE(fs::exists(help / "index.html"));
-  for (const auto& page : fs::directory_iterator(help)) {
-    const std::string text = ReadTextFile(page);
-    for (const std::string attribute : {"href=\"", "src=\""})
+  /// The pages, and what each of them names behind an attribute.
+  std::map<std::string, Names> Named(const std::string& attribute) const {
+    std::map<std::string, Names> named;
+    for (const auto& file : fs::directory_iterator(Help)) {
+      if (file.path().extension() != ".html") continue;
+      Names& names = named[file.path().filename()];
+      const std::string text = ReadTextFile(file);
       for (std::size_t at = text.find(attribute); at != text.npos; at = text.find(attribute, at)) {
         at += attribute.size();
-        const std::string target = text.substr(at, text.find_first_of("\"#", at) - at);
-        EXPECT_TRUE(fs::exists(help / target)) << page.path() << " names " << target;
+        names.insert(text.substr(at, text.find_first_of("\"#", at) - at));
       }
+    }
+    return named;
   }
+
+  const TestConsole Console;
+  const fs::path Help = Console.Folder() / "help";
+};
+
+// The help window opens nothing outside its folder, so a link elsewhere would lead nowhere.
+TEST_F(HelpPagesTest, EveryLinkLeadsToAFileOfTheFolder) {
+  EXPECT_TRUE(fs::exists(Help / "index.html"));
+  for (const auto& [page, targets] : Named("href=\""))
+    for (const std::string& target : targets) EXPECT_TRUE(fs::exists(Help / target)) << page << " names " << target;
+}
+
+// Each page has a picture that the window shows without a scroll bar, and no picture is left from a page that is gone.
+TEST_F(HelpPagesTest, EveryPageHasItsPicture) {
+  Names shown;
+  for (const auto& [page, pictures] : Named("<img src=\"")) {
+    EXPECT_FALSE(pictures.empty()) << page;
+    for (const std::string& picture : pictures) {
+      shown.insert(fs::path(picture).filename());
+      const std::string png = ReadTextFile(Help / picture);
+      ASSERT_TRUE(png.size() > 24 && png.starts_with("\x89PNG")) << picture;
+      EXPECT_LE(png.size(), 90U * 1024) << picture;
+      EXPECT_LE(static_cast<unsigned char>(png[18]) * 256 + static_cast<unsigned char>(png[19]), 660) << picture;
+    }
+  }
+  for (const auto& file : fs::directory_iterator(Help / "pictures"))
+    EXPECT_EQ(1U, shown.count(file.path().filename())) << file.path() << " is on no page";
 }
 
 }  // namespace

@@ -13,7 +13,9 @@
 #include <set>
 
 #include "StartedConsole.h"
+#include "adapters/qt/HelpWindow.h"
 #include "admin/frmServiceAccount.h"
+#include "app/installation/TextFile.h"
 #include "core/console/frmBegin.h"
 #include "core/console/frmControlService.h"
 #include "core/console/frmLogView.h"
@@ -167,6 +169,28 @@ TEST_F(FormsTest, ABundleDraggedToTheChosenSideIsAdded) {
   QTest::qWait(20);
   ASSERT_EQ(1, chosen.model()->rowCount());
   EXPECT_EQ(editor.lvwAlarmGroups.Item(1).Text, chosen.model()->index(0, 0).data().toString().toStdString());
+}
+
+// Each screen has a page of its own, from wherever the focus is; the contents lead to it, and its picture is shown.
+TEST_F(FormsTest, F1OpensThePageOfEveryScreen) {
+  const std::string contents = ReadTextFile(CORVANE_SOURCE_DIR "/data/help/index.html");
+  ForEachForm([&](ui::Form& form) {
+    const std::string page = std::to_string(form.HelpContext) + ".html";
+    EXPECT_NE(contents.npos, contents.find("\"" + page + "\"")) << form.Name();
+    ForEachPage(form, [&] {
+      QWidget* focus = Window(form).focusWidget();
+      QTest::keyClick(focus != nullptr ? focus : &Window(form), Qt::Key_F1);
+      qt::HelpWindow* help = nullptr;
+      for (QWidget* window : QApplication::topLevelWidgets())
+        if (auto* found = dynamic_cast<qt::HelpWindow*>(window)) help = found;
+      ASSERT_NE(nullptr, help) << form.Name();
+      EXPECT_EQ(page, help->source().fileName().toStdString()) << form.Name();
+      const QString picture = help->toHtml().section("<img src=\"", 1, 1).section('"', 0, 0);
+      EXPECT_TRUE(!picture.isEmpty() && help->loadResource(QTextDocument::ImageResource, QUrl(picture)).isValid())
+          << page << " does not show " << picture.toStdString();
+      Host().CloseHelp();
+    });
+  });
 }
 
 // A picture of every screen, for whoever wants to judge it.
