@@ -55,7 +55,8 @@ TEST_F(ProgramTest, FollowsItsWindowAndEndsWhenThatIsClosed) {
     for (QWidget* window : QApplication::topLevelWidgets())
       if (window->objectName() == "frmCVMain" && window->isVisible()) {
         GrowAndCheck(*window);
-        return window->close();
+        window->close();
+        return true;
       }
     return false;
   });
