@@ -3,7 +3,6 @@
 #include <chrono>
 #include <fstream>
 #include <random>
-#include <regex>
 #include <set>
 #include <thread>
 
@@ -74,8 +73,9 @@ std::set<std::string> PossibleContents() {
 }
 
 std::string WithoutStamp(const fs::path& registry) {
-  static const std::regex stamp("\"LastDBUpdate\"=\"[0-9-]+\"\r?\n");
-  return std::regex_replace(ReadTextFile(registry), stamp, "");
+  std::string text = ReadTextFile(registry);
+  const std::size_t begin = text.find("\"LastDBUpdate\"");
+  return begin == text.npos ? text : text.erase(begin, text.find('\n', begin) + 1 - begin);
 }
 
 // Whatever the moment, nothing on the disk is half of anything.

@@ -144,10 +144,11 @@ TEST(Start, OnlyAnAccountMakesTheNextStartANormalOne) {
     EXPECT_EQ(set ? "1" : "", console.Setting("Created"));
     console.Host.Shown.clear();
     console.Host.Slept.clear();
+    std::optional<FirstRun> second;
     if (!set) {
-      FirstRun second(console);
-      second.LeaveAccount();
-      second.LeaveComputerNames();
+      second.emplace(console);
+      second->LeaveAccount();
+      second->LeaveComputerNames();
     }
     Console again(console.Ports);
     again.Main();
