@@ -20,6 +20,7 @@ constexpr int FilledRole = Qt::UserRole + 1;
 
 ContainerDialog::ContainerDialog(const std::string& title, const ui::Container& root, ui::ContainersOf containersOf)
     : containersOf_(std::move(containersOf)), tree_(new QTreeWidget) {
+  setObjectName("ContainerDialog");
   setWindowTitle(ToQt(title));
   auto* layout = new QVBoxLayout(this);
   auto* label = new QLabel("Choose an organizational unit or &container:");
@@ -28,7 +29,9 @@ ContainerDialog::ContainerDialog(const std::string& title, const ui::Container& 
   layout->addWidget(label);
   layout->addWidget(tree_);
   layout->addWidget(buttons);
+  tree_->setObjectName("tree");
   tree_->setHeaderHidden(true);
+  buttons->button(QDialogButtonBox::Ok)->setObjectName("ok");
   buttons->button(QDialogButtonBox::Ok)->setEnabled(false);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

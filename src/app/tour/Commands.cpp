@@ -37,6 +37,21 @@ void MapComputers(Script& script) {
       [] { return Driver::Find<QComboBox>(Main, "lstDomain").findText("CUSTOM: BRANCH") >= 0; }, [] {});
 }
 
+void ChooseUnit(Script& script) {
+  const char* source = "frmComputerEnum";
+  const char* browser = "ContainerDialog";
+  script.On(Main, [] { Driver::ClickTool(Main, "retrievecomputersfrom"); });
+  script.On(source, [=] {
+    Driver::Click(source, "optRetrieve_2");
+    Driver::Click(source, "cmdBrowse");
+  });
+  script.On(browser, [=] { Driver::Pick(View(browser, "tree"), {"MERIDIAN", "Servers", "Databases"}); });
+  script.Picture(browser, "choose-a-unit");
+  script.On(browser, [=] { Driver::Click(browser, "ok"); });
+  script.Picture(source, "computer-names-from-unit");
+  script.On(source, [=] { Driver::Click(source, "cmdOK"); });
+}
+
 void ReadTheEvents(Script& script) {
   script.On(Main, [] { Driver::ClickTool(Main, "viewlogentries"); });
   script.When(
@@ -63,6 +78,7 @@ void StopWatching(Script& script) {
 void AddCommands(Script& script) {
   StartTheService(script);
   MapComputers(script);
+  ChooseUnit(script);
   ReadTheEvents(script);
   StopWatching(script);
 }
