@@ -194,6 +194,7 @@ std::optional<std::string> QtHost::SaveFile(const ui::SaveDialog& dialog) {
   Flush();
   QFileDialog chooser(nullptr, ToQt(dialog.Title), QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
                       ToQt(dialog.Filter));
+  chooser.setObjectName("SaveDialog");
   chooser.setOption(QFileDialog::DontUseNativeDialog);
   chooser.setAcceptMode(QFileDialog::AcceptSave);
   chooser.setDefaultSuffix(ToQt(dialog.Pattern).section('.', -1));

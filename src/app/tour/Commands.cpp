@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <QTest>
 
 #include "app/tour/Script.h"
 
@@ -58,7 +59,17 @@ void ReadTheEvents(Script& script) {
       "the events are read",
       [] { return Driver::Window(Viewer) != nullptr && View(Viewer, "lvEvents").model()->rowCount() > 0; }, [] {});
   script.Picture(Viewer, "log-entries");
-  script.On(Viewer, [] { Driver::Click(Viewer, "cmdClose"); });
+  const char* dialog = "SaveDialog";
+  script.On(Viewer, [] { Driver::Click(Viewer, "cmdExport"); });
+  script.On(dialog, [=, report = script.Folder() + "/report.htm"] {
+    // Typing would open the list of completions above the buttons.
+    Driver::Find<QLineEdit>(dialog, "fileNameEdit").setText(QString::fromStdString(report));
+  });
+  script.Picture(dialog, "save-the-report");
+  script.On(dialog, [=] { QTest::keyClick(Driver::Window(dialog), Qt::Key_Return); });
+  script.When(
+      "the report is written", [=] { return Driver::Window(dialog) == nullptr; },
+      [] { Driver::Click(Viewer, "cmdClose"); });
 }
 
 void StopWatching(Script& script) {

@@ -15,6 +15,9 @@ class Script : public QObject {
  public:
   explicit Script(std::string pictureFolder) : folder_(std::move(pictureFolder)) {}
 
+  /// Where the pictures go.
+  const std::string& Folder() const { return folder_; }
+
   using Condition = std::function<bool()>;
   using Act = std::function<void()>;
 
