@@ -1,7 +1,12 @@
 #include <benchmark/benchmark.h>
 
+#include "admin/frmServiceAccount.h"
 #include "core/console/frmBegin.h"
+#include "core/console/frmLogView.h"
 #include "core/console/frmStartup.h"
+#include "domains/frmComputerEnum.h"
+#include "domains/frmCustomDomainManager.h"
+#include "domains/frmDomainChooser.h"
 #include "logs/frmLogEdit.h"
 #include "qt/FaceHost.h"
 #include "support/BenchConsole.h"
@@ -39,6 +44,14 @@ BENCHMARK(OpenScreen<frmBegin>)->Name("notice of the first run opened and painte
 BENCHMARK(OpenScreen<frmStartup>)->Name("About box opened and painted")->Iterations(50)->UseManualTime();
 BENCHMARK(OpenScreen<frmLogEdit>)->Name("log editor opened and painted")->Iterations(50)->UseManualTime();
 BENCHMARK(OpenScreen<frmCVMain>)->Name("main window opened and painted")->Iterations(50)->UseManualTime();
+BENCHMARK(OpenScreen<frmDomainChooser>)->Name("default domain opened and painted")->Iterations(50)->UseManualTime();
+BENCHMARK(OpenScreen<frmComputerEnum>)->Name("computer names opened and painted")->Iterations(50)->UseManualTime();
+BENCHMARK(OpenScreen<frmCustomDomainManager>)
+    ->Name("custom domains opened and painted")
+    ->Iterations(50)
+    ->UseManualTime();
+BENCHMARK(OpenScreen<frmServiceAccount>)->Name("service account opened and painted")->Iterations(50)->UseManualTime();
+BENCHMARK(OpenScreen<frmLogView>)->Name("log viewer opened and painted")->Iterations(50)->UseManualTime();
 
 }  // namespace
 }  // namespace corvane::bench

@@ -55,7 +55,9 @@ void ToolbarBinding::Update() {
     QAction& action = *actions_[i];
     if (button.Separator) continue;
     if (action.icon().name() != ToQt(button.Picture)) action.setIcon(icons::Get(button.Picture));
-    if (const QString text = ToQt(button.Caption); action.text() != text) action.setText(text);
+    // A button that shows its picture alone still has a name, for readers of the screen and where the row is too narrow.
+    const QString text = ToQt(button.Caption.empty() ? button.ToolTip : button.Caption);
+    if (action.text() != text) action.setText(text);
     if (const QString tip = PlainToolTip(button.ToolTip); action.toolTip() != tip) action.setToolTip(tip);
     if (action.isEnabled() != button.Enabled) action.setEnabled(button.Enabled);
   }
