@@ -1,0 +1,60 @@
+#include "support/ConsoleTest.h"
+
+#include "app/installation/TextFile.h"
+
+namespace corvane::test {
+
+std::string Message(const std::string& name, const std::string& with, ui::MsgIcon* icon) {
+  static const std::string messages = "\n" + ReadTextFile(CORVANE_SOURCE_DIR "/tests/support/Messages.txt");
+  const std::size_t line = messages.find("\n" + name + " ");
+  if (line == messages.npos) throw std::runtime_error("no message " + name);
+  const std::size_t sign = line + name.size() + 2;
+  if (icon) *icon = static_cast<ui::MsgIcon>(std::string("!i?").find(messages[sign]));
+  std::string text;
+  for (std::size_t i = sign + 2; messages[i] != '\n'; ++i) {
+    const bool isBreak = messages.compare(i, 2, "\\n") == 0;
+    text += isBreak ? "\n" : messages[i] == '@' ? with : messages.substr(i, 1);
+    i += isBreak ? 1 : 0;
+  }
+  return text;
+}
+
+void ConsoleTest::TearDown() {
+  for (const ShownBox& box : Host.Boxes) {
+    if (!icons_.contains(box.Text)) continue;
+    EXPECT_EQ(icons_[box.Text], box.Icon) << box.Text;
+    EXPECT_EQ(box.Icon == ui::MsgIcon::Question, box.Buttons == ui::MsgButtons::YesNo) << box.Text;
+  }
+}
+
+void ConsoleTest::OnMessage(const std::string& name, const std::string& with, ui::MsgResult answer) {
+  ui::MsgIcon icon{};
+  const std::string text = Message(name, with, &icon);
+  icons_[text] = icon;
+  Host.OnBox(text, answer);
+}
+
+std::string ConsoleTest::Panel(std::size_t panel) {
+  const ui::StatusPanel& shown = Window().stbMain.Panels[panel];
+  return shown.Text + (shown.Picture.empty() ? "" : " " + shown.Picture);
+}
+
+void ConsoleTest::Watch(const std::string& computer, int log, const std::string& domain, bool isMarked) {
+  const std::string number = std::to_string(log);
+  Console.Rows("INSERT OR IGNORE INTO RegisteredServers VALUES ('" + computer + number + "', '" + domain + "', '" +
+               computer + "', " + number + ", 0, " + (isMarked ? "1" : "0") + ", 0, 0)");
+}
+
+void ConsoleTest::SetService(const std::string& name, const std::string& state, const std::string& refuses) {
+  Console.SetLab("Service " + name, "State", state);
+  Console.SetLab("Service " + name, "Until", "0");
+  Console.SetLab("Service " + name, "Refuses", refuses);
+}
+
+void ConsoleTest::SetStatistic(const std::string& name, const std::string& value) {
+  const char* key = "Software\\Tarnwick\\Corvane\\Statistics";
+  Main.Registry.CreateNewKey(key, registry::LocalMachine);
+  Main.Registry.SetKeyValue(key, name, value, registry::String);
+}
+
+}  // namespace corvane::test
