@@ -6,34 +6,35 @@ namespace corvane::test {
 
 /// The ports that a test puts in place of those of an installation; null keeps the installation's own.
 struct Replacements {
+  corvane::System* System = nullptr;
   corvane::Files* Files = nullptr;
+  DataProvider* Data = nullptr;
   corvane::EventLogs* EventLogs = nullptr;
-  corvane::EventReader* EventReader = nullptr;
   corvane::NetX* NetX = nullptr;
   corvane::DirectoryProvider* Directory = nullptr;
   UnitQuery* Units = nullptr;
   corvane::Launcher* Launcher = nullptr;
 };
 
-inline Platform Replace(const Platform& ports, const Replacements& with) {
-  const auto choose = [](auto* replacement, auto& own) -> auto& { return replacement ? *replacement : own; };
-  return Platform{ports.System,
-                  choose(with.Files, ports.Files),
-                  ports.Registry,
-                  ports.Profiles,
-                  ports.Data,
-                  ports.Services,
-                  choose(with.EventLogs, ports.EventLogs),
-                  choose(with.EventReader, ports.EventReader),
-                  choose(with.NetX, ports.NetX),
-                  choose(with.Directory, ports.Directory),
-                  choose(with.Units, ports.Units),
-                  ports.Ping,
-                  choose(with.Launcher, ports.Launcher),
-                  ports.Instance,
-                  ports.Ui,
-                  ports.CreateDirectoryApi,
-                  ports.CreateChannelReader};
+inline Platform Replace(const Platform& own, const Replacements& with) {
+  const auto either = [](auto* replacement, auto& port) -> auto& { return replacement ? *replacement : port; };
+  return {.System = either(with.System, own.System),
+          .Files = either(with.Files, own.Files),
+          .Registry = own.Registry,
+          .Profiles = own.Profiles,
+          .Data = either(with.Data, own.Data),
+          .Services = own.Services,
+          .EventLogs = either(with.EventLogs, own.EventLogs),
+          .EventReader = own.EventReader,
+          .NetX = either(with.NetX, own.NetX),
+          .Directory = either(with.Directory, own.Directory),
+          .Units = either(with.Units, own.Units),
+          .Ping = own.Ping,
+          .Launcher = either(with.Launcher, own.Launcher),
+          .Instance = own.Instance,
+          .Ui = own.Ui,
+          .CreateDirectoryApi = own.CreateDirectoryApi,
+          .CreateChannelReader = own.CreateChannelReader};
 }
 
 }  // namespace corvane::test

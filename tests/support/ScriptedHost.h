@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <deque>
 #include <functional>
@@ -33,40 +35,60 @@ class ScriptedHost : public ui::UiHost {
   ~ScriptedHost() override;
 
   /// The next modal form: its name, and what the user does on it. The form must be unloaded when the script ends.
-  void OnModal(std::string name, std::function<void(ui::Form&)> script);
+  void OnModal(std::string name, std::function<void(ui::Form&)> script) {
+    modals_.emplace_back(std::move(name), std::move(script));
+  }
   /// The same with the form's own class.
   template <class T>
   void OnModal(std::string name, std::function<void(T&)> script) {
     OnModal(std::move(name), [script = std::move(script)](ui::Form& form) { script(dynamic_cast<T&>(form)); });
   }
   /// The next box: its whole text and the answer.
-  void OnBox(std::string text, ui::MsgResult answer = ui::MsgResult::Ok);
+  void OnBox(std::string text, ui::MsgResult answer = ui::MsgResult::Ok) { boxes_.emplace_back(text, answer); }
   /// The next dialog that asks for a file's name, and the path that is given; nothing for Cancel.
-  void OnSaveFile(std::optional<std::string> path) { files_.push_back(std::move(path)); }
+  void OnSaveFile(std::optional<std::string> path) { files_.emplace_back("", std::move(path)); }
   /// The next choice of a container: a script gets the root and the reader of its tree, and chooses.
   using ContainerScript = std::function<std::optional<ui::Container>(const ui::Container&, const ui::ContainersOf&)>;
-  void OnChooseContainer(ContainerScript script) { containers_.push_back(std::move(script)); }
+  void OnChooseContainer(ContainerScript script) { containers_.emplace_back("", std::move(script)); }
   /// What is run at the next call of `DoEvents`: the user acting meanwhile.
-  void OnDoEvents(std::function<void()> action) { duringEvents_.push_back(std::move(action)); }
+  void OnDoEvents(std::function<void()> action) { duringEvents_.emplace_back("", std::move(action)); }
 
   // The user's acts. A control that is disabled or hidden fails the test.
-  void Click(ui::CommandButton& button);
+  void Click(ui::CommandButton& button) { Fire(button, button.Click); }
   void Click(ui::MenuItem& item);
   void Press(ui::Toolbar& bar, const std::string& key);
   void PressItem(ui::Toolbar& bar, const std::string& key, const std::string& item);
-  void Click(ui::CheckBox& box);
+  void Click(ui::CheckBox& box) {
+    box.Value = !box.Value;
+    Fire(box, box.Click);
+  }
   void Choose(ui::OptionButton& option);
   /// Types behind what stands in the box, character by character.
   void Type(ui::TextBox& box, const std::string& text);
-  void Choose(ui::ComboBox& box, int index);
+  void Choose(ui::ComboBox& box, int index) {
+    box.SetListIndex(index);
+    Fire(box, box.Click);
+  }
   void Type(ui::ComboBox& box, const std::string& text);
-  void BringToFront(ui::TabControl& tabs, int tab);
-  void Focus(ui::Control& control);
+  void BringToFront(ui::TabControl& tabs, int tab) {
+    tabs.Tab = tab;
+    Fire(tabs, tabs.Click);
+  }
+  void Focus(ui::Control& control) { Fire(control, control.GotFocus); }
   void SelectOnly(ui::ListView& list, int row);
-  void DoubleClick(ui::ListView& list, int row);
+  void DoubleClick(ui::ListView& list, int row) {
+    SelectOnly(list, row);
+    Fire(list, list.DblClick);
+  }
   void ClickNode(ui::TreeView& tree, ui::NodeId node);
-  void Open(ui::TreeView& tree, ui::NodeId node);
-  void Shut(ui::TreeView& tree, ui::NodeId node);
+  void Open(ui::TreeView& tree, ui::NodeId node) {
+    tree.SetExpanded(node, true);
+    Fire(tree, tree.Expand, node);
+  }
+  void Shut(ui::TreeView& tree, ui::NodeId node) {
+    tree.SetExpanded(node, false);
+    Fire(tree, tree.Collapse, node);
+  }
   void Drop(ui::Control& source, ui::Control& target);
 
   /// The form shown last.
@@ -79,7 +101,7 @@ class ScriptedHost : public ui::UiHost {
 
   void ShowModal(ui::Form& form) override;
   void Show(ui::Form& form) override;
-  void Forget(const ui::Form& form) override;
+  void Forget(const ui::Form& form) override { std::erase(shownForms_, &form); }
   using UiHost::MsgBox;
   ui::MsgResult MsgBox(const std::string& text, ui::MsgIcon icon, ui::MsgButtons buttons,
                        const std::string& title) override;
@@ -89,7 +111,7 @@ class ScriptedHost : public ui::UiHost {
   void SetClipboardText(const std::string& text) override { Clipboard = text; }
   void Beep() override { ++Beeps; }
   void PopupMenu(ui::MenuItem& menu) override { Popups.push_back(&menu); }
-  void SetFocus(ui::Control& control) override;
+  void SetFocus(ui::Control& control) override { Focus(control); }
   void DoEvents() override;
   void Sleep(int milliseconds) override;
   void ShowHelp(int context) override { HelpTopics.push_back(context); }
@@ -109,23 +131,34 @@ class ScriptedHost : public ui::UiHost {
   int EventsServed = 0;
 
  private:
-  struct ExpectedModal {
-    std::string Name;
-    std::function<void(ui::Form&)> Script;
-  };
-  struct ExpectedBox {
-    std::string Text;
-    ui::MsgResult Answer;
-  };
+  /// What a test foresees, in order: the name or text that is shown, empty where any will do, and the answer to it.
+  template <class Answer>
+  using Foreseen = std::deque<std::pair<std::string, Answer>>;
 
-  static void Require(const ui::Control& control);
+  template <class Answer>
+  static std::optional<Answer> Next(Foreseen<Answer>& foreseen, const std::string& shown) {
+    if (foreseen.empty() || (!foreseen.front().first.empty() && foreseen.front().first != shown)) {
+      ADD_FAILURE() << "not foreseen: " << shown;
+      return std::nullopt;
+    }
+    const Answer answer = std::move(foreseen.front().second);
+    foreseen.pop_front();
+    return answer;
+  }
+
+  /// Runs a handler of a control that the user can reach.
+  template <class Handler, class... Arguments>
+  static void Fire(const ui::Control& control, const Handler& handler, Arguments... arguments) {
+    if (!control.Enabled || !control.Visible) ADD_FAILURE() << control.Name() << " is disabled or hidden";
+    if (handler) handler(arguments...);
+  }
   void RunTimers(ui::Form& form, int milliseconds);
 
-  std::deque<ExpectedModal> modals_;
-  std::deque<ExpectedBox> boxes_;
-  std::deque<std::optional<std::string>> files_;
-  std::deque<ContainerScript> containers_;
-  std::deque<std::function<void()>> duringEvents_;
+  Foreseen<std::function<void(ui::Form&)>> modals_;
+  Foreseen<ui::MsgResult> boxes_;
+  Foreseen<std::optional<std::string>> files_;
+  Foreseen<ContainerScript> containers_;
+  Foreseen<std::function<void()>> duringEvents_;
   std::vector<ui::Form*> shownForms_;
 };
 
