@@ -20,12 +20,9 @@ inline std::string AlarmId(TestConsole& console, const std::string& name, const 
 
 /// The two record counters of a log, as the insert writes them.
 inline std::string Counters(TestConsole& console, const std::string& idName) {
-  std::string rows = console.Rows("SELECT * FROM RegisteredServers WHERE IDName = '" + idName + "'");
-  if (!rows.empty()) rows.pop_back();
-  const std::size_t second = rows.rfind('|');
-  const std::size_t first = second == std::string::npos ? second : rows.rfind('|', second - 1);
-  return first == std::string::npos ? rows
-                                    : rows.substr(first + 1, second - first - 1) + ", " + rows.substr(second + 1);
+  const std::string rows = console.Rows(
+      "SELECT FirstCounter || ', ' || SecondCounter FROM RegisteredServers WHERE IDName = '" + idName + "'");
+  return rows.substr(0, rows.find('\n'));
 }
 
 /// All rows that make up the watched logs.
