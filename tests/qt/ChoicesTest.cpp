@@ -15,7 +15,6 @@
 namespace corvane::test {
 
 TEST_F(HostTest, OptionsLeaveEachOtherAndChecksTurn) {
-  frmChoices form(Host);
   std::string order;
   for (int i : {0, 1}) form.optSource[static_cast<std::size_t>(i)].Click = [&order, i] { order += std::to_string(i); };
   form.chkAll.Click = [&] { order += form.chkAll.Value ? "+" : "-"; };
@@ -26,9 +25,8 @@ TEST_F(HostTest, OptionsLeaveEachOtherAndChecksTurn) {
   click(form.optSource[1]);
   click(form.optSource[0]);
   EXPECT_EQ(0, ui::ChosenOption(form.optSource));
-  EXPECT_TRUE(QTest::qWaitForWindowActive(&Host.ViewOf(form)->Window()));
-  Host.SetFocus(form.optSource[0]);
-  QTest::keyClick(&WidgetOf<QRadioButton>(form.optSource[0]), Qt::Key_Down);
+  Await(Window(form));
+  Key(form.optSource[0], Qt::Key_Right);
   EXPECT_EQ(1, ui::ChosenOption(form.optSource));
   click(form.chkAll);
   click(form.chkAll);
@@ -48,7 +46,6 @@ TEST_F(HostTest, OptionsLeaveEachOtherAndChecksTurn) {
 }
 
 TEST_F(HostTest, ABoxRefusesCharactersHoweverTheyCome) {
-  frmChoices form(Host);
   form.txtName.Text = "a b";
   std::string asked;
   form.txtName.KeyPress = [&](char32_t character) {
@@ -68,30 +65,27 @@ TEST_F(HostTest, ABoxRefusesCharactersHoweverTheyCome) {
   EXPECT_EQ(4, line.cursorPosition());
   line.backspace();
   EXPECT_EQ("ap\xC3\xBC b", form.txtName.Text);
-  form.txtName.IsPassword = true;
-  frmChoices other(Host);
+  frmTest other(Host);
   other.txtName.IsPassword = true;
   other.Show();
   EXPECT_EQ(QLineEdit::Password, WidgetOf<QLineEdit>(other.txtName).echoMode());
 }
 
 TEST_F(HostTest, AToolbarButtonActsAndItsArrowDropsDown) {
-  frmMenus form(Host);
+  frmMenus menus(Host);
   std::string order;
-  form.tbrMain.Buttons = {
-      {"tools", "Tools", "", "add", true, false, {{"First", [&] { order += "first "; }}, {"Second", [&] {
-                                                                                            order += "second ";
-                                                                                          }}}}};
-  form.tbrMain.ButtonClick = [&](const std::string& key) { order += key + " "; };
-  form.Show();
-  auto* button = Host.ViewOf(form)->Window().findChild<QToolButton*>();
-  for (QToolButton* one : Host.ViewOf(form)->Window().findChildren<QToolButton*>())
+  const auto add = [&](const char* text) { return [&order, text] { order += text; }; };
+  menus.tbrMain.Buttons = {{"tools", "", "", "add", true, false, {{"First", add("first")}, {"Second", add("second")}}}};
+  menus.tbrMain.ButtonClick = [&](const std::string& key) { order += key + " "; };
+  menus.Show();
+  auto* button = Window(menus).findChild<QToolButton*>();
+  for (QToolButton* one : Window(menus).findChildren<QToolButton*>())
     if (one->menu() != nullptr) button = one;
   ASSERT_NE(nullptr, button->menu());
   EXPECT_EQ(QToolButton::MenuButtonPopup, button->popupMode());
   QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
   button->menu()->actions().at(1)->trigger();
-  EXPECT_EQ("tools second ", order);
+  EXPECT_EQ("tools second", order);
 }
 
 TEST_F(HostTest, AFileIsNamedInADialog) {

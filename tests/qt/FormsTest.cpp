@@ -1,19 +1,14 @@
-#include <gtest/gtest.h>
-
-#include <QApplication>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QTest>
 #include <QTimer>
-#include <QTreeView>
 #include <functional>
 #include <set>
 
+#include "Hands.h"
 #include "StartedConsole.h"
-#include "adapters/qt/HelpWindow.h"
 #include "admin/frmServiceAccount.h"
 #include "app/installation/TextFile.h"
 #include "core/console/frmBegin.h"
@@ -28,31 +23,16 @@
 
 namespace corvane::test {
 
-class FormsTest : public ::testing::Test {
+class FormsTest : public StartedConsole {
  protected:
-  static void SetUpTestSuite() { Running = new StartedConsole; }
-  static void TearDownTestSuite() {
-    delete Running;
-    Running = nullptr;
-  }
-
-  static qt::QtHost& Host() { return Running->Host; }
-  static modMain& State() { return Running->App.State(); }
-  static frmCVMain& Main() { return Running->App.MainWindow(); }
-  static QWidget& Window(const ui::Form& form) { return Running->Window(form); }
-  static QTreeView& View(const ui::Control& control) {
+  QTreeView& View(const ui::Control& control) {
     return *Window(control.Parent()).findChild<QTreeView*>(QString::fromStdString(std::string(control.Name())));
   }
 
   /// Every form of the console, shown one after the other; each page of its tabs in front in turn.
-  static void ForEachForm(const std::function<void(ui::Form&)>& visit);
-  static void ForEachPage(ui::Form& form, const std::function<void()>& visit);
-
- private:
-  static StartedConsole* Running;
+  void ForEachForm(const std::function<void(ui::Form&)>& visit);
+  void ForEachPage(const std::function<void(ui::Form&, int page)>& visit);
 };
-
-StartedConsole* FormsTest::Running = nullptr;
 
 void FormsTest::ForEachForm(const std::function<void(ui::Form&)>& visit) {
   frmBegin begin(State());
@@ -77,21 +57,22 @@ void FormsTest::ForEachForm(const std::function<void(ui::Form&)>& visit) {
   }
 }
 
-void FormsTest::ForEachPage(ui::Form& form, const std::function<void()>& visit) {
-  auto* tabs = Window(form).findChild<QTabWidget*>("tabMain");
-  for (int page = 0; page < (tabs != nullptr ? tabs->count() : 1); ++page) {
-    if (tabs != nullptr) tabs->setCurrentIndex(page);
-    QTest::qWait(10);
-    visit();
-  }
-  if (tabs != nullptr) tabs->setCurrentIndex(0);
+void FormsTest::ForEachPage(const std::function<void(ui::Form&, int page)>& visit) {
+  ForEachForm([&](ui::Form& form) {
+    auto* tabs = Window(form).findChild<QTabWidget*>("tabMain");
+    for (int page = 0; page < (tabs != nullptr ? tabs->count() : 1); ++page) {
+      if (tabs != nullptr) tabs->setCurrentIndex(page);
+      QTest::qWait(10);
+      visit(form, page);
+    }
+  });
 }
 
 TEST_F(FormsTest, EveryControlHasItsWidgetAndEveryWidgetItsControl) {
   std::set<std::string> seen;
   ForEachForm([&](ui::Form& form) {
     seen.emplace(form.Name());
-    for (const std::string& mismatch : Host().ViewOf(form)->Mismatches())
+    for (const std::string& mismatch : Host.ViewOf(form)->Mismatches())
       ADD_FAILURE() << form.Name() << ": " << mismatch;
   });
   for (const std::string& name : qt::FormRegistry::Console().Names()) EXPECT_EQ(1U, seen.count(name)) << name;
@@ -99,41 +80,35 @@ TEST_F(FormsTest, EveryControlHasItsWidgetAndEveryWidgetItsControl) {
 
 // A widget is never smaller than its own text.
 TEST_F(FormsTest, NoTextIsCut) {
-  ForEachForm([&](ui::Form& form) {
-    ForEachPage(form, [&] {
-      for (QWidget* widget : Window(form).findChildren<QWidget*>()) {
-        auto* label = qobject_cast<QLabel*>(widget);
-        if (!widget->isVisible() || (label == nullptr && qobject_cast<QPushButton*>(widget) == nullptr)) continue;
-        const int needed = label != nullptr && label->wordWrap() ? 0 : widget->sizeHint().width();
-        EXPECT_LE(needed, widget->width()) << form.Name() << " " << widget->objectName().toStdString();
-        const int height = label != nullptr && label->wordWrap() ? label->heightForWidth(label->width())
-                                                                 : widget->minimumSizeHint().height();
-        EXPECT_LE(height, widget->height()) << form.Name() << " " << widget->objectName().toStdString();
-      }
-    });
+  ForEachPage([&](ui::Form& form, int) {
+    for (const QWidget* widget : Window(form).findChildren<QWidget*>()) {
+      const auto* label = qobject_cast<const QLabel*>(widget);
+      if (!widget->isVisible() || (label == nullptr && qobject_cast<const QPushButton*>(widget) == nullptr)) continue;
+      const bool wraps = label != nullptr && label->wordWrap();
+      const QSize needed(wraps ? 0 : widget->sizeHint().width(),
+                         wraps ? label->heightForWidth(label->width()) : widget->minimumSizeHint().height());
+      EXPECT_EQ(widget->size(), needed.expandedTo(widget->size()))
+          << form.Name() << " " << widget->objectName().toStdString();
+    }
   });
 }
 
 // One letter stands for one thing on what is visible together.
 TEST_F(FormsTest, NoMnemonicIsGivenTwice) {
-  ForEachForm([&](ui::Form& form) {
-    ForEachPage(form, [&] {
-      std::multiset<QString> letters;
-      const auto take = [&](const QString& text) {
-        const QString letter = QKeySequence::mnemonic(text).toString();
-        if (!letter.isEmpty()) letters.insert(letter);
-      };
-      for (const QWidget* widget : Window(form).findChildren<QWidget*>()) {
-        if (!widget->isVisible()) continue;
-        if (auto* button = qobject_cast<const QPushButton*>(widget)) take(button->text());
-        if (auto* label = qobject_cast<const QLabel*>(widget); label != nullptr && label->buddy()) take(label->text());
-        if (auto* group = qobject_cast<const QGroupBox*>(widget)) take(group->title());
-        if (auto* bar = qobject_cast<const QTabBar*>(widget))
-          for (int tab = 0; tab < bar->count(); ++tab) take(bar->tabText(tab));
-      }
-      for (const QString& letter : letters)
-        EXPECT_EQ(1U, letters.count(letter)) << form.Name() << " " << letter.toStdString();
-    });
+  ForEachPage([&](ui::Form& form, int) {
+    std::set<QString> letters;
+    const auto take = [&](const QString& text) {
+      const QString letter = QKeySequence::mnemonic(text).toString();
+      EXPECT_TRUE(letter.isEmpty() || letters.insert(letter).second) << form.Name() << " " << text.toStdString();
+    };
+    for (const QWidget* widget : Window(form).findChildren<QWidget*>()) {
+      if (!widget->isVisible()) continue;
+      if (auto* button = qobject_cast<const QPushButton*>(widget)) take(button->text());
+      if (auto* label = qobject_cast<const QLabel*>(widget); label != nullptr && label->buddy()) take(label->text());
+      if (auto* group = qobject_cast<const QGroupBox*>(widget)) take(group->title());
+      if (auto* bar = qobject_cast<const QTabBar*>(widget))
+        for (int tab = 0; tab < bar->count(); ++tab) take(bar->tabText(tab));
+    }
   });
 }
 
@@ -143,7 +118,7 @@ TEST_F(FormsTest, TheSplashHasItsSizeAndAboutGoesWithAClick) {
   about.SetAbout(true);
   QTimer::singleShot(50, qApp, [&] {
     EXPECT_EQ(QSize(600, 365), Window(about).size());
-    QTest::mouseClick(Window(about).windowHandle(), Qt::LeftButton, Qt::NoModifier, {300, 250});
+    ClickAt(Window(about), {300, 250});
   });
   about.ShowModal();
   EXPECT_TRUE(about.IsUnloaded());
@@ -155,18 +130,11 @@ TEST_F(FormsTest, ABundleDraggedToTheChosenSideIsAdded) {
   editor.Show();
   QTest::qWait(400);
   Window(editor).findChild<QTabWidget*>("tabMain")->setCurrentIndex(2);
-  Host().SetFocus(editor.lvwAlarmGroups);
+  Host.SetFocus(editor.lvwAlarmGroups);
   QTest::qWait(20);
   const QTreeView& bundles = View(editor.lvwAlarmGroups);
   const QTreeView& chosen = View(editor.tvSelectedAlarms);
-  QWindow* window = Window(editor).windowHandle();
-  const QPoint start =
-      bundles.viewport()->mapTo(&Window(editor), bundles.visualRect(bundles.model()->index(1, 0)).center());
-  const QPoint end = chosen.mapTo(&Window(editor), chosen.rect().center());
-  QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, start);
-  for (int step = 1; step <= 5; ++step) QTest::mouseMove(window, start + (end - start) * step / 5);
-  QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, end);
-  QTest::qWait(20);
+  Drag(bundles, MiddleOf(bundles, bundles.model()->index(1, 0)), MiddleOf(chosen));
   ASSERT_EQ(1, chosen.model()->rowCount());
   EXPECT_EQ(editor.lvwAlarmGroups.Item(1).Text, chosen.model()->index(0, 0).data().toString().toStdString());
 }
@@ -174,22 +142,16 @@ TEST_F(FormsTest, ABundleDraggedToTheChosenSideIsAdded) {
 // Each screen has a page of its own, from wherever the focus is; the contents lead to it, and its picture is shown.
 TEST_F(FormsTest, F1OpensThePageOfEveryScreen) {
   const std::string contents = ReadTextFile(CORVANE_SOURCE_DIR "/data/help/index.html");
-  ForEachForm([&](ui::Form& form) {
+  ForEachPage([&](ui::Form& form, int) {
     const std::string page = std::to_string(form.HelpContext) + ".html";
     EXPECT_NE(contents.npos, contents.find("\"" + page + "\"")) << form.Name();
-    ForEachPage(form, [&] {
-      QWidget* focus = Window(form).focusWidget();
-      QTest::keyClick(focus != nullptr ? focus : &Window(form), Qt::Key_F1);
-      qt::HelpWindow* help = nullptr;
-      for (QWidget* window : QApplication::topLevelWidgets())
-        if (auto* found = dynamic_cast<qt::HelpWindow*>(window)) help = found;
-      ASSERT_NE(nullptr, help) << form.Name();
-      EXPECT_EQ(page, help->source().fileName().toStdString()) << form.Name();
-      const QString picture = help->toHtml().section("<img src=\"", 1, 1).section('"', 0, 0);
-      EXPECT_TRUE(!picture.isEmpty() && help->loadResource(QTextDocument::ImageResource, QUrl(picture)).isValid())
-          << page << " does not show " << picture.toStdString();
-      Host().CloseHelp();
-    });
+    QWidget* focus = Window(form).focusWidget();
+    QTest::keyClick(focus != nullptr ? focus : &Window(form), Qt::Key_F1);
+    EXPECT_EQ(page, Help().source().fileName().toStdString()) << form.Name();
+    const QString picture = Help().toHtml().section("<img src=\"", 1, 1).section('"', 0, 0);
+    EXPECT_TRUE(!picture.isEmpty() && Help().loadResource(QTextDocument::ImageResource, QUrl(picture)).isValid())
+        << page << " does not show " << picture.toStdString();
+    Host.CloseHelp();
   });
 }
 
@@ -197,17 +159,14 @@ TEST_F(FormsTest, F1OpensThePageOfEveryScreen) {
 TEST_F(FormsTest, EveryScreenCanBePictured) {
   const std::string folder = CORVANE_BINARY_DIR "/screens";
   std::filesystem::create_directories(folder);
-  ForEachForm([&](ui::Form& form) {
-    int page = 0;
-    ForEachPage(form, [&] {
-      const std::string file = folder + "/" + std::string(form.Name()) + "-" + std::to_string(page++) + ".png";
-      EXPECT_TRUE(Host().SavePicture(form, file)) << file;
-      const QImage picture = Host().Picture(form);
-      std::set<QRgb> colours;
-      for (int x = 0; x < picture.width(); x += 3)
-        for (int y = 0; y < picture.height(); y += 3) colours.insert(picture.pixel(x, y));
-      EXPECT_GT(colours.size(), 20U) << file;
-    });
+  ForEachPage([&](ui::Form& form, int page) {
+    const std::string file = folder + "/" + std::string(form.Name()) + "-" + std::to_string(page) + ".png";
+    EXPECT_TRUE(Host.SavePicture(form, file)) << file;
+    const QImage picture = Host.Picture(form);
+    std::set<QRgb> colours;
+    for (int x = 0; x < picture.width(); x += 3)
+      for (int y = 0; y < picture.height(); y += 3) colours.insert(picture.pixel(x, y));
+    EXPECT_GT(colours.size(), 20U) << file;
   });
 }
 

@@ -2,11 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QTest>
 #include <QTimer>
 #include <functional>
 
+#include "Hands.h"
 #include "TestForm.h"
 #include "adapters/qt/FormView.h"
 #include "adapters/qt/QtHost.h"
@@ -20,22 +19,25 @@ class HostTest : public ::testing::Test {
   /// Acts once the loops that the test is going to open are running.
   static void Soon(std::function<void()> act) { QTimer::singleShot(0, qApp, std::move(act)); }
 
-  template <class Widget>
+  QWidget& Window(const ui::Form& shown) { return Host.ViewOf(shown)->Window(); }
+  template <class Widget = QWidget>
   Widget& WidgetOf(const ui::Control& control) {
-    auto* widget =
-        Host.ViewOf(control.Parent())->Window().findChild<Widget*>(QString::fromStdString(qt::WidgetName(control)));
+    auto* widget = Window(control.Parent()).findChild<Widget*>(QString::fromStdString(qt::WidgetName(control)));
     if (widget == nullptr) throw std::runtime_error("no fitting widget for " + std::string(control.Name()));
     return *widget;
   }
-  /// Clicks where the widget is on the screen: a window that is blocked does not get it.
-  void Click(const ui::Control& button) {
-    const QWidget& widget = WidgetOf<QWidget>(button);
-    const QPoint place = widget.mapTo(widget.window(), widget.rect().center());
-    QTest::mouseClick(widget.window()->windowHandle(), Qt::LeftButton, Qt::NoModifier, place);
+  static void Await(QWidget& window) { EXPECT_TRUE(QTest::qWaitForWindowActive(&window)); }
+  void Click(const ui::Control& button) { ClickAt(WidgetOf(button), MiddleOf(WidgetOf(button))); }
+  /// A key that the window gets, or the control with the focus.
+  void Key(const ui::Form& shown, Qt::Key key) { QTest::keyClick(&Window(shown), key); }
+  void Key(const ui::Control& control, Qt::Key key) {
+    WidgetOf(control).setFocus();
+    QTest::keyClick(&WidgetOf(control), key);
+    Serve();
   }
-  void Key(const ui::Form& form, Qt::Key key) { QTest::keyClick(&Host.ViewOf(form)->Window(), key); }
 
   qt::QtHost Host{TestForms(), CORVANE_SOURCE_DIR "/data/help"};
+  frmTest form{Host};
 };
 
 }  // namespace corvane::test

@@ -1,60 +1,57 @@
-#include <QAction>
 #include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMainWindow>
-#include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 
 #include "HostFixture.h"
-#include "adapters/qt/HelpWindow.h"
 #include "platform/RuntimeError.h"
 
 namespace corvane::test {
+namespace {
+
+void Fail() { throw RuntimeError(errors::Overflow, "Overflow"); }
+
+}  // namespace
 
 TEST_F(HostTest, AModalFormEndsByClickEnterEscapeAndCloseBox) {
-  const std::vector<std::pair<const char*, std::function<void(frmTest&)>>> ways{
-      {"cancel", [this](frmTest& form) { Click(form.cmdCancel); }},
-      {"ok", [this](frmTest& form) { Key(form, Qt::Key_Return); }},
-      {"cancel", [this](frmTest& form) { Key(form, Qt::Key_Escape); }},
-      {"cancel", [this](frmTest& form) { Host.ViewOf(form)->Window().close(); }},
-      {"cancel",
-       [this](frmTest& form) {
-         WidgetOf<QWidget>(form.cmdCancel).setFocus();
-         QTest::keyClick(&WidgetOf<QWidget>(form.cmdCancel), Qt::Key_Enter);
-       }},
-      {"ok", [this](frmTest& form) { QTest::keyClick(&WidgetOf<QWidget>(form.txtName), Qt::Key_Return); }},
-      {"ok",
-       [this](frmTest& form) {
-         EXPECT_TRUE(QTest::qWaitForWindowActive(&Host.ViewOf(form)->Window()));
-         QTest::keyClick(&Host.ViewOf(form)->Window(), Qt::Key_O, Qt::AltModifier);
-       }},
+  std::optional<frmTest> modal;
+  const std::pair<const char*, std::function<void()>> ways[] = {
+      {"cancel", [&] { Click(modal->cmdCancel); }},
+      {"ok", [&] { Key(*modal, Qt::Key_Return); }},
+      {"cancel", [&] { Key(*modal, Qt::Key_Escape); }},
+      {"cancel", [&] { Window(*modal).close(); }},
+      {"cancel", [&] { Key(modal->cmdCancel, Qt::Key_Enter); }},
+      {"ok", [&] { Key(modal->txtName, Qt::Key_Return); }},
+      {"ok", [&] { QTest::keyClick(&Window(*modal), Qt::Key_O, Qt::AltModifier); }},
   };
   for (const auto& [expected, act] : ways) {
-    frmTest form(Host);
     std::string pressed;
-    form.cmdOK.Click = [&] { pressed += "ok", form.Unload(); };
-    form.cmdCancel.Click = [&] { pressed += "cancel", form.Unload(); };
-    Soon([&, act = act] { act(form); });
-    form.ShowModal();
+    modal.emplace(Host);
+    modal->cmdOK.Click = [&] { pressed += "ok", modal->Unload(); };
+    modal->cmdCancel.Click = [&] { pressed += "cancel", modal->Unload(); };
+    Soon([&, act = act] {
+      Await(Window(*modal));
+      act();
+    });
+    modal->ShowModal();
     EXPECT_EQ(expected, pressed);
-    EXPECT_EQ(nullptr, Host.ViewOf(form));
+    EXPECT_EQ(nullptr, Host.ViewOf(*modal));
   }
 }
 
 TEST_F(HostTest, NothingEndsAFormWhoseCancelIsDisabled) {
-  frmTest form(Host);
   form.cmdCancel.Enabled = false;
   form.Show();
   Key(form, Qt::Key_Escape);
-  Host.ViewOf(form)->Window().close();
+  Window(form).close();
   Click(form.cmdCancel);
   Serve();
-  EXPECT_FALSE(form.IsUnloaded());
-  EXPECT_TRUE(Host.ViewOf(form)->Window().isVisible());
+  EXPECT_TRUE(!form.IsUnloaded() && Window(form).isVisible());
 }
 
 TEST_F(HostTest, AssignmentFiresNothingAndShowsAfterTheHandler) {
-  frmTest form(Host);
   int fired = 0;
   form.lstLog.Click = form.tabMain.Click = form.txtName.GotFocus = [&] { ++fired; };
   form.lvwRows.ItemClick = [&](int) { ++fired; };
@@ -83,32 +80,28 @@ TEST_F(HostTest, AssignmentFiresNothingAndShowsAfterTheHandler) {
   EXPECT_EQ("System", WidgetOf<QComboBox>(form.lstLog).currentText());
   EXPECT_EQ("Two", WidgetOf<QTabWidget>(form.tabMain).tabText(1));
   EXPECT_EQ(1, WidgetOf<QTabWidget>(form.tabMain).currentIndex());
-  EXPECT_FALSE(WidgetOf<QWidget>(form.cmdCancel).isEnabled());
-  EXPECT_TRUE(WidgetOf<QWidget>(form.lblName).isHidden());
-  EXPECT_EQ("changed", Host.ViewOf(form)->Window().windowTitle());
+  EXPECT_TRUE(!WidgetOf(form.cmdCancel).isEnabled() && WidgetOf(form.lblName).isHidden());
+  EXPECT_EQ("changed", Window(form).windowTitle());
 }
 
 TEST_F(HostTest, WhatTheUserDoesReachesTheControlBeforeItsHandler) {
-  frmTest form(Host);
   std::string seen;
-  form.lstLog.AddItem("Application");
-  form.lstLog.AddItem("System");
+  for (const char* log : {"Application", "System"}) form.lstLog.AddItem(log);
   form.lstLog.SetListIndex(0);
   form.lstLog.Click = [&] { seen += form.lstLog.Text(); };
   form.tabMain.Captions = {"One", "Two"};
   form.tabMain.Click = [&] { seen += " tab " + std::to_string(form.tabMain.Tab); };
   form.Show();
   QTest::keyClicks(&WidgetOf<QLineEdit>(form.txtName), "SERVER1");
-  QTest::keyClick(&WidgetOf<QComboBox>(form.lstLog), Qt::Key_Down);
-  QTabBar& bar = *WidgetOf<QTabWidget>(form.tabMain).tabBar();
-  QTest::mouseClick(&bar, Qt::LeftButton, Qt::NoModifier, bar.tabRect(1).center());
+  Key(form.lstLog, Qt::Key_Down);
+  const QTabBar& bar = *WidgetOf<QTabWidget>(form.tabMain).tabBar();
+  ClickAt(bar, bar.mapTo(bar.window(), bar.tabRect(1).center()));
   Serve();
   EXPECT_EQ("SERVER1", form.txtName.Text);
   EXPECT_EQ("System tab 1", seen);
 }
 
 TEST_F(HostTest, AnEditableBoxTakesWhatIsTyped) {
-  frmTest form(Host);
   form.lstLog.Editable = true;
   form.lstLog.AddItem("SERVER1");
   std::string changes;
@@ -117,55 +110,43 @@ TEST_F(HostTest, AnEditableBoxTakesWhatIsTyped) {
   QTest::keyClicks(WidgetOf<QComboBox>(form.lstLog).lineEdit(), "S1");
   EXPECT_EQ("S/-1 S1/-1 ", changes);
   EXPECT_EQ("S1", WidgetOf<QComboBox>(form.lstLog).currentText());
-  QTest::keyClick(&WidgetOf<QComboBox>(form.lstLog), Qt::Key_Return);
+  Key(form.lstLog, Qt::Key_Return);
   EXPECT_TRUE(form.IsUnloaded());
 }
 
 TEST_F(HostTest, ModalFormsNestAndGiveTheirOpenerBack) {
-  frmTest outer(Host);
   std::string order;
-  outer.cmdOK.Click = [&] {
+  form.cmdOK.Click = [&] {
     frmTest inner(Host);
     Soon([&] {
-      EXPECT_TRUE(QTest::qWaitForWindowActive(&Host.ViewOf(inner)->Window()));
-      Click(outer.cmdCancel);  // blocked by the inner form
+      Await(Window(inner));
+      Click(form.cmdCancel);  // blocked by the inner form
       order += "inner ";
       Click(inner.cmdOK);
     });
     inner.ShowModal();
     order += "back ";
+    Soon([&] {
+      Await(Window(form));
+      Click(form.cmdCancel);
+    });
   };
-  Soon([&] { Click(outer.cmdOK); });
-  QTimer watch;
-  QObject::connect(&watch, &QTimer::timeout, [&] {
-    if (order != "inner back ") return;
-    watch.stop();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&Host.ViewOf(outer)->Window()));
-    Click(outer.cmdCancel);
-  });
-  watch.start(5);
-  outer.ShowModal();
+  Soon([&] { Click(form.cmdOK); });
+  form.ShowModal();
   EXPECT_EQ("inner back ", order);
 }
 
 TEST_F(HostTest, AnErrorOutOfAHandlerEndsEveryLoopAndIsRaisedAgain) {
-  frmTest outer(Host);
-  bool swallowed = false;
-  outer.cmdOK.Click = [&] {
+  form.cmdOK.Click = [&] {
     frmTest inner(Host);
-    inner.cmdOK.Click = [] { throw RuntimeError(errors::TypeMismatch, "Type mismatch"); };
+    inner.cmdOK.Click = Fail;
     Soon([&] { Click(inner.cmdOK); });
     // Code that passes over errors does not keep the program alive.
-    try {
-      inner.ShowModal();
-    } catch (const RuntimeError&) {
-      swallowed = true;
-    }
+    EXPECT_THROW(inner.ShowModal(), RuntimeError);
     EXPECT_THROW(Host.MsgBox("too late", ui::MsgIcon::Exclamation), RuntimeError);
   };
-  Soon([&] { Click(outer.cmdOK); });
-  EXPECT_THROW(outer.ShowModal(), RuntimeError);
-  EXPECT_TRUE(swallowed);
+  Soon([&] { Click(form.cmdOK); });
+  EXPECT_THROW(form.ShowModal(), RuntimeError);
 
   // The failure was told; what comes afterwards works again.
   frmTest next(Host);
@@ -174,9 +155,9 @@ TEST_F(HostTest, AnErrorOutOfAHandlerEndsEveryLoopAndIsRaisedAgain) {
   EXPECT_TRUE(next.IsUnloaded());
 }
 
-TEST_F(HostTest, EndProgramLeavesTheMainLoopWithItsExitCode) {
-  frmTest form(Host);
+TEST_F(HostTest, TheMainLoopEndsWithTheProgramTheLastWindowAndAnError) {
   int later = 0;
+  frmTest first(Host), second(Host), third(Host);
   form.cmdCancel.Click = [&] { ++later; };
   form.cmdOK.Click = [&] {
     Soon([&] { Click(form.cmdCancel); });
@@ -186,10 +167,8 @@ TEST_F(HostTest, EndProgramLeavesTheMainLoopWithItsExitCode) {
   Soon([&] { Click(form.cmdOK); });
   EXPECT_EQ(7, Host.Run());
   EXPECT_EQ(0, later);
-}
+  form.Unload();
 
-TEST_F(HostTest, TheMainLoopEndsWithTheLastWindowAndRaisesErrors) {
-  frmTest first(Host), second(Host);
   first.Show();
   second.Show();
   Soon([&] {
@@ -199,41 +178,24 @@ TEST_F(HostTest, TheMainLoopEndsWithTheLastWindowAndRaisesErrors) {
   EXPECT_EQ(0, Host.Run());
   EXPECT_TRUE(first.IsUnloaded() && second.IsUnloaded());
 
-  frmTest third(Host);
-  third.cmdOK.Click = [] { throw RuntimeError(errors::Overflow, "Overflow"); };
+  third.cmdOK.Click = Fail;
   third.Show();
   Soon([&] { Click(third.cmdOK); });
   EXPECT_THROW(Host.Run(), RuntimeError);
 }
 
 TEST_F(HostTest, AFormMayDieInItsOwnHandler) {
-  auto form = std::make_unique<frmTest>(Host);
-  form->cmdOK.Click = [&] { form.reset(); };
-  form->Show();
-  const frmTest* dead = form.get();
-  QPointer<QWidget> window = &Host.ViewOf(*dead)->Window();
-  Click(form->cmdOK);
+  auto dying = std::make_unique<frmTest>(Host);
+  dying->cmdOK.Click = [&] { dying.reset(); };
+  dying->Show();
+  const QPointer<QWidget> window = &Window(*dying);
+  Click(dying->cmdOK);
   Serve();
-  EXPECT_EQ(nullptr, form);
+  EXPECT_EQ(nullptr, dying);
   EXPECT_TRUE(window.isNull());
 }
 
-TEST_F(HostTest, EventsAreServedAtMostEveryTenMilliseconds) {
-  frmTest form(Host);
-  form.Show();
-  Serve(20);
-  Host.DoEvents();
-  bool served = false;
-  Soon([&] { served = true; });
-  Host.DoEvents();
-  EXPECT_FALSE(served);
-  QTest::qSleep(11);
-  Host.DoEvents();
-  EXPECT_TRUE(served);
-}
-
-TEST_F(HostTest, DoEventsTakesInputAndPassesErrorsOn) {
-  frmTest form(Host);
+TEST_F(HostTest, DoEventsTakesInputEveryTenMillisecondsAndPassesErrorsOn) {
   bool stopped = false;
   form.cmdCancel.Click = [&] { stopped = true; };
   form.cmdOK.Click = [&] {
@@ -246,14 +208,15 @@ TEST_F(HostTest, DoEventsTakesInputAndPassesErrorsOn) {
   Click(form.cmdOK);
   EXPECT_TRUE(stopped);
 
-  form.cmdCancel.Click = [] { throw RuntimeError(errors::Overflow, "Overflow"); };
+  form.cmdCancel.Click = Fail;
+  Host.DoEvents();
   Soon([&] { Click(form.cmdCancel); });
+  EXPECT_NO_THROW(Host.DoEvents()) << "too soon";
   QTest::qSleep(11);
   EXPECT_THROW(Host.DoEvents(), RuntimeError);
 }
 
 TEST_F(HostTest, SleepPaintsButRunsNoHandler) {
-  frmTest form(Host);
   int ticks = 0;
   form.tmrTick.Interval = 1;
   form.tmrTick.Enabled = true;
@@ -269,13 +232,12 @@ TEST_F(HostTest, SleepPaintsButRunsNoHandler) {
   EXPECT_GE(time.elapsed(), 40);
   EXPECT_EQ(0, ticks);
   EXPECT_EQ("shown", form.Caption);
-  EXPECT_EQ("shown", Host.ViewOf(form)->Window().windowTitle());
+  EXPECT_EQ("shown", Window(form).windowTitle());
   Serve(30);
   EXPECT_GT(ticks, 0);
 }
 
 TEST_F(HostTest, ATimerTicksWhileEnabledAndNeverIntoItself) {
-  frmTest form(Host);
   int ticks = 0, running = 0;
   form.tmrTick.Interval = 2;
   form.tmrTick.Tick = [&] {
@@ -294,79 +256,72 @@ TEST_F(HostTest, ATimerTicksWhileEnabledAndNeverIntoItself) {
 }
 
 TEST_F(HostTest, BoxesShowPlainTextAndAnswerByKey) {
-  struct Case {
-    ui::MsgButtons Buttons;
-    Qt::Key Key;
-    ui::MsgResult Result;
-  };
-  for (const Case& one : {Case{ui::MsgButtons::Ok, Qt::Key_Escape, ui::MsgResult::Ok},
-                          Case{ui::MsgButtons::OkCancel, Qt::Key_Return, ui::MsgResult::Ok},
-                          Case{ui::MsgButtons::OkCancel, Qt::Key_Escape, ui::MsgResult::Cancel},
-                          Case{ui::MsgButtons::YesNo, Qt::Key_Return, ui::MsgResult::Yes},
-                          Case{ui::MsgButtons::YesNo, Qt::Key_Escape, ui::MsgResult::No},
-                          Case{ui::MsgButtons::YesNo, Qt::Key_N, ui::MsgResult::No}}) {
-    Soon([&] {
+  using enum ui::MsgButtons;
+  const std::tuple<ui::MsgButtons, Qt::Key, ui::MsgResult> cases[] = {
+      {Ok, Qt::Key_Escape, ui::MsgResult::Ok},           {OkCancel, Qt::Key_Return, ui::MsgResult::Ok},
+      {OkCancel, Qt::Key_Escape, ui::MsgResult::Cancel}, {YesNo, Qt::Key_Return, ui::MsgResult::Yes},
+      {YesNo, Qt::Key_Escape, ui::MsgResult::No},        {YesNo, Qt::Key_N, ui::MsgResult::No}};
+  for (const auto& [buttons, key, result] : cases) {
+    Soon([pressed = key] {
       auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
       if (box == nullptr) throw std::runtime_error("no box");
-      EXPECT_TRUE(QTest::qWaitForWindowActive(box));
+      Await(*box);
       EXPECT_EQ("<b>a</b> & b", box->text());
       EXPECT_EQ(Qt::PlainText, box->textFormat());
       EXPECT_EQ("Title", box->windowTitle());
       EXPECT_EQ(QMessageBox::Question, box->icon());
-      QTest::keyClick(box, one.Key, one.Key == Qt::Key_N ? Qt::AltModifier : Qt::NoModifier);
+      QTest::keyClick(box, pressed, pressed == Qt::Key_N ? Qt::AltModifier : Qt::NoModifier);
     });
-    EXPECT_EQ(one.Result, Host.MsgBox("<b>a</b> & b", ui::MsgIcon::Question, one.Buttons, "Title"));
+    EXPECT_EQ(result, Host.MsgBox("<b>a</b> & b", ui::MsgIcon::Question, buttons, "Title"));
   }
 }
 
 TEST_F(HostTest, WhatWasPostponedComesBeforeTheNextClick) {
-  frmTest form(Host);
   std::string order;
   form.txtName.GotFocus = [&] { order += "focus "; };
   form.cmdOK.Click = [&] { order += "click "; };
   form.Show();
   Serve();
   order.clear();
-  WidgetOf<QWidget>(form.cmdCancel).setFocus();
-  QTest::mousePress(&WidgetOf<QWidget>(form.txtName), Qt::LeftButton);
+  WidgetOf(form.cmdCancel).setFocus();
+  QTest::mousePress(&WidgetOf(form.txtName), Qt::LeftButton);
   Host.SetFocus(form.txtName);
   Click(form.cmdOK);
   EXPECT_EQ("focus click ", order);
 }
 
 TEST_F(HostTest, ThePointerIsTheHourglassWhereTheFormSaysSo) {
-  frmTest form(Host);
   form.Show();
   form.cmdOK.Click = [&] { form.MousePointer = ui::Pointer::Hourglass; };
   form.cmdCancel.Click = [&] { form.MousePointer = ui::Pointer::Default; };
   Click(form.cmdOK);
-  EXPECT_EQ(Qt::WaitCursor, WidgetOf<QWidget>(form.txtName).cursor().shape());
-  EXPECT_EQ(Qt::WaitCursor, Host.ViewOf(form)->Window().cursor().shape());
+  EXPECT_EQ(Qt::WaitCursor, WidgetOf(form.txtName).cursor().shape());
+  EXPECT_EQ(Qt::WaitCursor, Window(form).cursor().shape());
   Click(form.cmdCancel);
-  EXPECT_EQ(Qt::IBeamCursor, WidgetOf<QWidget>(form.txtName).cursor().shape());
+  EXPECT_EQ(Qt::IBeamCursor, WidgetOf(form.txtName).cursor().shape());
 }
 
 TEST_F(HostTest, MenusOpenPopUpAndRunTheirShortcuts) {
-  frmMenus form(Host);
+  frmMenus menus(Host);
   std::string order;
-  form.mnuFile.Click = [&] {
+  menus.mnuFile.Click = [&] {
     order += "open ";
-    form.mnuFileRefresh.Enabled = false;
+    menus.mnuFileRefresh.Enabled = false;
   };
-  form.mnuFileRefresh.Click = [&] { order += "refresh "; };
-  form.mnuPopupDelete.Click = [&] { order += "delete "; };
-  form.tbrMain.Buttons = {{"add", "Add", "", "add", true, false}, {"", "", "", "", true, true}};
-  form.tbrMain.ButtonClick = [&](const std::string& key) {
+  menus.mnuFileRefresh.Click = [&] { order += "refresh "; };
+  menus.mnuPopupDelete.Click = [&] { order += "delete "; };
+  menus.tbrMain.Buttons = {{"add", "Add", "", "add", true, false}, {"", "", "", "", true, true}};
+  menus.tbrMain.ButtonClick = [&](const std::string& key) {
     order += key + " ";
-    form.tbrMain.Button("add").Enabled = false;
+    menus.tbrMain.Button("add").Enabled = false;
   };
-  form.stbMain.Panels = {{"Count", "3 <b>rows", ""}};
-  form.Show();
-  QMainWindow& window = static_cast<QMainWindow&>(Host.ViewOf(form)->Window());
-  EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+  menus.stbMain.Panels = {{"Count", "3 <b>rows", ""}};
+  menus.Show();
+  auto& window = static_cast<QMainWindow&>(Window(menus));
+  Await(window);
   QTest::keyClick(&window, Qt::Key_F5);
   Soon([] { QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_D); });
-  Host.PopupMenu(form.mnuPopup);
+  Host.PopupMenu(menus.mnuPopup);
   QAction* add = window.findChild<QAction*>("add");
   add->trigger();
   EXPECT_FALSE(add->isEnabled());
@@ -378,19 +333,14 @@ TEST_F(HostTest, MenusOpenPopUpAndRunTheirShortcuts) {
 }
 
 TEST_F(HostTest, F1OpensTheFormsTopicBesideAModalForm) {
-  frmTest form(Host);
   form.HelpContext = 120;
   Soon([&] {
     Key(form, Qt::Key_F1);
-    qt::HelpWindow* help = nullptr;
-    for (QWidget* window : QApplication::topLevelWidgets())
-      if (auto* found = dynamic_cast<qt::HelpWindow*>(window)) help = found;
-    if (help == nullptr) throw std::runtime_error("no help window");
-    EXPECT_TRUE(QTest::qWaitForWindowActive(help));
-    EXPECT_TRUE(help->loadResource(QTextDocument::HtmlResource, QUrl("file:///etc/hostname")).isNull());
-    EXPECT_TRUE(help->loadResource(QTextDocument::HtmlResource, QUrl("http://127.0.0.1/")).isNull());
-    QTest::keyClick(help->windowHandle(), Qt::Key_Escape);
-    EXPECT_FALSE(help->isVisible());
+    Await(Help());
+    for (const char* elsewhere : {"file:///etc/hostname", "http://127.0.0.1/"})
+      EXPECT_TRUE(Help().loadResource(QTextDocument::HtmlResource, QUrl(elsewhere)).isNull()) << elsewhere;
+    QTest::keyClick(Help().windowHandle(), Qt::Key_Escape);
+    EXPECT_FALSE(Help().isVisible());
     Click(form.cmdOK);
   });
   form.ShowModal();

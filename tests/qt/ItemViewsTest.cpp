@@ -18,29 +18,13 @@ class ItemViewsTest : public HostTest {
   QTreeView& List() { return WidgetOf<QTreeView>(form.lvwRows); }
   QTreeView& Tree() { return WidgetOf<QTreeView>(form.tvTree); }
 
-  static QPoint PlaceOf(const QTreeView& view, const QModelIndex& index) {
-    return view.visualRect(index).center() + QPoint(0, 0);
-  }
-  /// A mouse event at a place of a view, by the window system.
-  static QWindow* Mouse(const QTreeView& view, QPoint& place) {
-    place = view.viewport()->mapTo(view.window(), place);
-    return view.window()->windowHandle();
-  }
   static void ClickRow(const QTreeView& view, int row, Qt::KeyboardModifiers keys = Qt::NoModifier,
                        Qt::MouseButton button = Qt::LeftButton) {
-    QPoint place = PlaceOf(view, view.model()->index(row, 0));
-    QWindow* window = Mouse(view, place);
-    QTest::mouseClick(window, button, keys, place);
+    ClickAt(view, MiddleOf(view, view.model()->index(row, 0)), keys, button);
     Serve();
   }
-  static void Drag(const QTreeView& from, const QModelIndex& index, const QWidget& to, QPoint offset = {}) {
-    QPoint place = PlaceOf(from, index);
-    QWindow* window = Mouse(from, place);
-    const QPoint target = to.mapTo(to.window(), to.rect().center()) + offset;
-    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, place);
-    for (int step = 1; step <= 4; ++step) QTest::mouseMove(window, place + (target - place) * step / 4);
-    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, target);
-    Serve();
+  static void DragRow(const QTreeView& from, int row, QPoint to) {
+    Drag(from, MiddleOf(from, from.model()->index(row, 0)), to);
   }
   std::string Selected() const {
     std::string rows;
@@ -48,8 +32,6 @@ class ItemViewsTest : public HostTest {
       if (item.Selected) rows += item.Text.substr(4) + " ";
     return rows + "focus " + std::to_string(form.lvwRows.FocusRow());
   }
-
-  frmTest form{Host};
 };
 
 TEST_F(ItemViewsTest, TheSelectionGoesBothWays) {
@@ -64,8 +46,7 @@ TEST_F(ItemViewsTest, TheSelectionGoesBothWays) {
   ClickRow(List(), 3);
   ClickRow(List(), 5, Qt::ShiftModifier);
   EXPECT_EQ("3 4 5 focus 5", Selected());
-  QTest::keyClick(&List(), Qt::Key_Up);
-  Serve();
+  Key(form.lvwRows, Qt::Key_Up);
   EXPECT_EQ("4 focus 4", Selected());
   EXPECT_EQ("13354", clicks);
 
@@ -111,9 +92,8 @@ TEST_F(ItemViewsTest, ADoubleClickAndTheRightButtonReachTheirHandlers) {
     if (button == ui::MouseButton::Right) order += "right " + std::to_string(form.lvwRows.SelectedRow()) + " ";
   };
   form.Show();
-  QPoint place = PlaceOf(List(), List().model()->index(1, 0));
-  QWindow* window = Mouse(List(), place);
-  QTest::mouseDClick(window, Qt::LeftButton, Qt::NoModifier, place);
+  QTest::mouseDClick(Window(form).windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                     MiddleOf(List(), List().model()->index(1, 0)));
   Serve();
   ClickRow(List(), 2, Qt::NoModifier, Qt::RightButton);
   EXPECT_EQ("double 1 right 2 ", order);
@@ -151,9 +131,8 @@ TEST_F(ItemViewsTest, ATreeFillsItsBranchesWhenTheUserOpensThem) {
   form.Show();
   const QModelIndex index = Tree().model()->index(0, 0);
   const auto clickExpander = [&] {
-    QPoint place(Tree().visualRect(index).left() - Tree().indentation() / 2, Tree().visualRect(index).center().y());
-    QWindow* window = Mouse(Tree(), place);
-    QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier, place);
+    const QRect item = Tree().visualRect(index);
+    ClickAt(Tree(), MiddleOf(Tree(), index) - QPoint(item.width() / 2 + Tree().indentation() / 2, 0));
     Serve();
   };
   clickExpander();
@@ -161,8 +140,7 @@ TEST_F(ItemViewsTest, ATreeFillsItsBranchesWhenTheUserOpensThem) {
   ASSERT_EQ(3, Tree().model()->rowCount(index));
   EXPECT_EQ("b", Tree().model()->index(1, 0, index).data().toString());
   ClickRow(Tree(), 0);
-  QTest::keyClick(&Tree(), Qt::Key_Down);
-  Serve();
+  Key(form.tvTree, Qt::Key_Down);
   EXPECT_EQ(form.tvTree.Find("a"), form.tvTree.Selected());
   clickExpander();
   EXPECT_EQ(2, Tree().model()->rowCount(index));
@@ -203,44 +181,32 @@ TEST_F(ItemViewsTest, ATreeFollowsWhatItsFormDoesToIt) {
 TEST_F(ItemViewsTest, DraggingDropsOnNamedTargetsOnly) {
   Rows(3);
   form.tvTree.Add(0, "", "root", "");
-  int drops = 0;
-  std::string what;
+  std::string dropped;
   form.lvwRows.DragTargets = {&form.tvTree};
-  form.tvTree.DragDrop = [&] {
-    ++drops;
-    what = Selected();
-  };
+  form.tvTree.DragDrop = [&] { dropped += Selected(); };
   form.txtName.DragDrop = [&] { ADD_FAILURE() << "not a target"; };
   form.lvwRows.ItemClick = [](int) {};
   form.Show();
   ClickRow(List(), 0);
   ClickRow(List(), 2, Qt::ControlModifier);
-  Drag(List(), List().model()->index(2, 0), Tree());
-  EXPECT_EQ(1, drops);
-  EXPECT_EQ("0 2 focus 2", what);
-  Drag(List(), List().model()->index(1, 0), WidgetOf<QWidget>(form.txtName));
-  Drag(List(), List().model()->index(1, 0), List(), {0, 60});
-  Drag(Tree(), Tree().model()->index(0, 0), List());
-  EXPECT_EQ(1, drops);
+  DragRow(List(), 2, MiddleOf(Tree()));
+  EXPECT_EQ("0 2 focus 2", dropped);
+  DragRow(List(), 1, MiddleOf(WidgetOf(form.txtName)));
+  DragRow(List(), 1, MiddleOf(List()) + QPoint(0, 60));
+  DragRow(Tree(), 0, MiddleOf(List()));
+  EXPECT_EQ("0 2 focus 2", dropped) << "once only";
   EXPECT_EQ("1 focus 1", Selected());
   EXPECT_EQ(nullptr, QApplication::overrideCursor());
-}
-
-TEST_F(ItemViewsTest, EscapeGivesADragUp) {
-  Rows(1);
-  form.lvwRows.DragTargets = {&form.tvTree};
-  form.tvTree.DragDrop = [] { ADD_FAILURE() << "dropped"; };
-  form.Show();
-  QPoint place = PlaceOf(List(), List().model()->index(0, 0));
-  QWindow* window = Mouse(List(), place);
-  const QPoint target = Tree().mapTo(Tree().window(), Tree().rect().center());
-  QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, place);
-  QTest::mouseMove(window, target);
+  // Escape gives a drag up.
+  QWindow* window = Window(form).windowHandle();
+  QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, MiddleOf(List(), List().model()->index(0, 0)));
+  QTest::mouseMove(window, MiddleOf(Tree()));
   EXPECT_NE(nullptr, QApplication::overrideCursor());
-  QTest::keyClick(&List(), Qt::Key_Escape);
+  Key(form.lvwRows, Qt::Key_Escape);
   EXPECT_EQ(nullptr, QApplication::overrideCursor());
-  QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, target);
+  QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, MiddleOf(Tree()));
   Serve();
+  EXPECT_EQ("0 2 focus 2", dropped);
   EXPECT_FALSE(form.IsUnloaded());
 }
 
@@ -253,14 +219,12 @@ TEST_F(ItemViewsTest, TheSideUnderThePointerBecomesTheWideOne) {
   form.lvwRows.MouseMove = [&] { widen(5820, 2610); };
   form.tvTree.GotFocus = [&] { widen(2610, 5865); };
   form.Show();
-  EXPECT_TRUE(QTest::qWaitForWindowActive(&Host.ViewOf(form)->Window()));
+  Await(Window(form));
   EXPECT_NEAR(5865.0 / 2610, 1.0 * Tree().width() / List().width(), 0.05);
-  const auto moveTo = [](const QWidget& widget) {
-    QTest::mouseMove(widget.window()->windowHandle(), widget.mapTo(widget.window(), widget.rect().center()));
+  for (const ui::Control* under : std::initializer_list<ui::Control*>{&form.txtName, &form.lvwRows}) {
+    QTest::mouseMove(Window(form).windowHandle(), MiddleOf(WidgetOf(*under)));
     Serve();
-  };
-  moveTo(WidgetOf<QWidget>(form.txtName));
-  moveTo(List());
+  }
   EXPECT_NEAR(5820.0 / 2610, 1.0 * List().width() / Tree().width(), 0.05);
   Host.SetFocus(form.tvTree);
   Serve();

@@ -1,21 +1,17 @@
 #include "support/Switchboard.h"
 
-#include <gtest/gtest.h>
-
-#include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
-#include <QTest>
 #include <QTimer>
 #include <QToolBar>
-#include <QTreeView>
 
+#include "Hands.h"
 #include "StartedConsole.h"
 
 namespace corvane::test {
 namespace {
 
-class SwitchboardTest : public ::testing::Test {
+class SwitchboardTest : public StartedConsole {
  protected:
   SwitchboardTest() {
     State().SaveSetting("Created", "1");
@@ -25,15 +21,12 @@ class SwitchboardTest : public ::testing::Test {
     Serve();
   }
 
-  modMain& State() { return Console.App.State(); }
-  frmCVMain& Main() { return Console.App.MainWindow(); }
-  QWidget& Window() { return Console.Window(Main()); }
+  QWidget& Window() { return StartedConsole::Window(Main()); }
   static void Serve() { QTest::qWait(20); }
 
-  void SelectRow() {
-    auto& list = *Window().findChild<QTreeView*>("lvwComputers");
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier,
-                      list.visualRect(list.model()->index(0, 0)).center());
+  void ClickRow(Qt::MouseButton button) {
+    const auto& list = *Window().findChild<QTreeView*>("lvwComputers");
+    ClickAt(list, MiddleOf(list, list.model()->index(0, 0)), Qt::NoModifier, button);
     Serve();
   }
 
@@ -81,11 +74,8 @@ class SwitchboardTest : public ::testing::Test {
       QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier, menu->actionGeometry(ActionOf(name)).center());
     };
     if (Item(name).Menu->Popup) {
-      auto& list = *Window().findChild<QTreeView*>("lvwComputers");
       QTimer::singleShot(50, qApp, choose);
-      QTest::mouseClick(list.viewport(), Qt::RightButton, Qt::NoModifier,
-                        list.visualRect(list.model()->index(0, 0)).center());
-      return;
+      return ClickRow(Qt::RightButton);
     }
     auto& bar = *Window().findChild<QMenuBar*>();
     for (QAction* action : bar.actions())
@@ -94,15 +84,13 @@ class SwitchboardTest : public ::testing::Test {
     Serve();
     choose();
   }
-
-  StartedConsole Console;
 };
 
 TEST_F(SwitchboardTest, EveryClickOpensItsScreen) {
   for (const Command& command : Switchboard) {
     if (command.Form.empty()) continue;
     const auto opens = [&](const std::string& way, const std::function<void()>& act) {
-      SelectRow();
+      ClickRow(Qt::LeftButton);
       EXPECT_EQ(command.Form, Opened(act)) << way;
     };
     if (!command.Key.empty()) opens(command.Key, [&] { ClickTool(command.Key); });
