@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "admin/frmServiceAccount.h"
 #include "app/installation/TextFile.h"
 #include "core/console/frmBegin.h"
@@ -9,83 +7,55 @@
 #include "domains/frmCustomDomainManager.h"
 #include "domains/frmDomainChooser.h"
 #include "logs/frmLogEdit.h"
-#include "support/TestConsole.h"
+#include "support/ConsoleTest.h"
 
 namespace corvane::test {
 namespace {
 
-// All texts that the user sees on a form, a line for each control that has any.
-class Texts {
- public:
-  explicit Texts(const ui::Form& form) : form_(form) {
-    all_ = "[" + std::string(form.Name()) + "] " + form.Caption + "\n";
-    for (const ui::Control* control : form.Controls()) Add(*control);
-  }
-  const std::string& All() const { return all_; }
+template <class T>
+std::string CaptionAs(const ui::Control& control) {
+  const auto* captioned = dynamic_cast<const T*>(&control);
+  return captioned ? captioned->Caption : "";
+}
 
- private:
-  void Add(const ui::Control& control) {
-    std::string texts;
-    const auto add = [&](const std::string& text) {
-      if (!text.empty()) texts += " | " + text;
-    };
-    switch (control.Kind()) {
-      case ui::ControlKind::Label:
-        add(static_cast<const ui::Label&>(control).Caption);
-        break;
-      case ui::ControlKind::CommandButton:
-        add(static_cast<const ui::CommandButton&>(control).Caption);
-        break;
-      case ui::ControlKind::CheckBox:
-        add(static_cast<const ui::CheckBox&>(control).Caption);
-        break;
-      case ui::ControlKind::OptionButton:
-        add(static_cast<const ui::OptionButton&>(control).Caption);
-        break;
-      case ui::ControlKind::Frame:
-        add(static_cast<const ui::Frame&>(control).Caption);
-        break;
-      case ui::ControlKind::MenuItem:
-        add(static_cast<const ui::MenuItem&>(control).Caption);
-        break;
-      case ui::ControlKind::TabControl:
-        for (const std::string& caption : static_cast<const ui::TabControl&>(control).Captions) add(caption);
-        break;
-      case ui::ControlKind::ListView:
-        for (const ui::ListColumn& column : static_cast<const ui::ListView&>(control).Columns) add(column.Header);
-        break;
-      default:
-        break;
-    }
-    add(control.ToolTip);
-    if (texts.empty() || texts == " | -") return;
-    all_ += std::string(control.Name()) + (control.Index < 0 ? "" : "_" + std::to_string(control.Index)) + texts + "\n";
-  }
-
-  const ui::Form& form_;
-  std::string all_;
-};
+// All texts that the user sees of a control: its name and behind it each text, or nothing where there is none.
+std::string TextsOf(const ui::Control& control) {
+  std::vector<std::string> all{CaptionAs<ui::Label>(control),        CaptionAs<ui::CommandButton>(control),
+                               CaptionAs<ui::CheckBox>(control),     CaptionAs<ui::Frame>(control),
+                               CaptionAs<ui::OptionButton>(control), CaptionAs<ui::MenuItem>(control)};
+  if (const auto* tabs = dynamic_cast<const ui::TabControl*>(&control))
+    all.insert(all.end(), tabs->Captions.begin(), tabs->Captions.end());
+  if (const auto* list = dynamic_cast<const ui::ListView*>(&control))
+    for (const ui::ListColumn& column : list->Columns) all.push_back(column.Header);
+  all.push_back(control.ToolTip);
+  std::string texts;
+  for (const std::string& text : all)
+    if (!text.empty()) texts += " | " + text;
+  if (texts.empty() || texts == " | -") return "";
+  return std::string(control.Name()) + (control.Index < 0 ? "" : "_" + std::to_string(control.Index)) + texts + "\n";
+}
 
 // The words on the screens are settled to the letter, odd spellings and double blanks included.
-TEST(Captions, AreTheSettledOnes) {
-  TestConsole console;
-  console.Start();
-  modMain& main = console.App.State();
-  frmBegin begin(main);
-  frmStartup about(main);
-  frmLogEdit editor(main);
-  frmControlService services(main, [](Service) {});
-  frmLogView events(main);
-  frmDomainChooser domain(main);
-  frmComputerEnum computers(main);
-  frmCustomDomainManager mappings(main);
-  frmServiceAccount account(main);
+TEST_F(ConsoleTest, CaptionsAreTheSettledOnes) {
+  Console.Start();
+  frmBegin begin(Main);
+  frmStartup about(Main);
+  frmLogEdit editor(Main);
+  frmControlService stop(Main, {}), start(Main, {});
+  start.IsStart = true;
+  frmLogView events(Main);
+  frmDomainChooser domain(Main);
+  frmComputerEnum computers(Main);
+  frmCustomDomainManager mappings(Main);
+  frmServiceAccount account(Main);
   std::string shown;
-  for (ui::Form* form : std::initializer_list<ui::Form*>{&console.Window(), &begin, &about, &editor, &services, &events,
+  for (ui::Form* form : std::initializer_list<ui::Form*>{&Window(), &begin, &about, &editor, &stop, &start, &events,
                                                          &domain, &computers, &mappings, &account}) {
     form->Load();
-    if (form == &services) services.InitForm();
-    shown += Texts(*form).All() + "\n";
+    if (auto* services = dynamic_cast<frmControlService*>(form)) services->InitForm();
+    shown += "[" + std::string(form->Name()) + "] " + form->Caption + "\n";
+    for (const ui::Control* control : form->Controls()) shown += TextsOf(*control);
+    shown += "\n";
   }
   EXPECT_EQ(ReadTextFile(CORVANE_SOURCE_DIR "/tests/console/Captions.txt"), shown);
 }

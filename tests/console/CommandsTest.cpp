@@ -1,220 +1,230 @@
-#include <gtest/gtest.h>
+#include <map>
 
-#include <set>
-
+#include "core/Browser.h"
 #include "core/console/frmControlService.h"
 #include "platform/Launcher.h"
+#include "platform/RuntimeError.h"
+#include "support/ConsoleTest.h"
 #include "support/ReplacedPorts.h"
 #include "support/Switchboard.h"
-#include "support/TestConsole.h"
 
 namespace corvane::test {
 namespace {
 
+// Notes what is to be started; a program without a name, or any when told so, is not found.
 class WitnessLauncher : public Launcher {
  public:
-  void Run(const std::string& commandLine) override { Ran.push_back(commandLine); }
+  void Run(const std::string& commandLine) override {
+    if (Fails || commandLine.starts_with(" ")) throw RuntimeError(errors::FileNotFound, "File not found");
+    Ran.push_back(commandLine);
+  }
   std::vector<std::string> Ran;
+  bool Fails = false;
 };
 
-class CommandsTest : public ::testing::Test {
+class CommandsTest : public ConsoleTest {
  protected:
   CommandsTest() {
-    console.Rows("INSERT INTO RegisteredServers VALUES ('MERA1', 'MERIDIAN', 'MERA', 1, 0, 0, 0, 0)");
-    app.Main();
-    host.SelectOnly(window().lvwComputers, 0);
+    Watch("MERA", 1);
+    App.Main();
+    Host.SelectOnly(Window().lvwComputers, 0);
   }
-  frmCVMain& window() { return app.MainWindow(); }
-  ui::MenuItem& Item(const std::string& name) {
-    for (ui::Control* control : window().Controls())
-      if (control->Kind() == ui::ControlKind::MenuItem && control->Name() == name)
-        return static_cast<ui::MenuItem&>(*control);
-    throw std::runtime_error("no item " + name);
-  }
-  void SetService(const std::string& name, const std::string& state, const std::string& refuses = "nothing") {
-    console.SetLab("Service " + name, "State", state);
-    console.SetLab("Service " + name, "Until", "0");
-    console.SetLab("Service " + name, "Refuses", refuses);
-  }
-  std::string Panel(int panel) {
-    const ui::StatusPanel& shown = window().stbMain.Panels[static_cast<std::size_t>(panel)];
-    return shown.Text + " " + shown.Picture;
-  }
+  frmCVMain& Window() override { return App.MainWindow(); }
 
-  TestConsole console;
-  ScriptedHost& host = console.Host;
-  WitnessLauncher launcher;
-  Platform ports = Replace(console.Ports, {.Launcher = &launcher});
-  Console app{ports};
+  WitnessLauncher Programs;
+  Platform Ports = Replace(Console.Ports, {.Launcher = &Programs});
+  corvane::Console App{Ports};
+  modMain& Main = App.State();
 };
 
-TEST_F(CommandsTest, EveryWayLeadsToItsScreen) {
-  app.State().SaveSetting("Created", "1");
-  for (const Command& command : Switchboard) {
-    if (command.Form.empty()) continue;
-    const auto opens = [&](const std::function<void()>& act) {
-      host.OnModal(command.Form, [](ui::Form& form) { form.CloseBox(); });
-      act();
-      host.SelectOnly(window().lvwComputers, 0);
-    };
-    if (!command.Key.empty()) opens([&] { host.Press(window().tbrMain, command.Key); });
-    for (const std::string& name : command.Items) opens([&] { host.Click(Item(name)); });
-  }
-  // Keys of the toolbar are compared without regard to case.
-  host.OnModal("frmControlService", [](ui::Form& form) { form.CloseBox(); });
-  window().tbrMain.ButtonClick("StartService");
-}
-
 // No button and no item is there that the switchboard does not know.
-TEST_F(CommandsTest, NothingLeadsNowhere) {
-  std::set<std::string> keys, items;
-  for (const Command& command : Switchboard) {
-    keys.insert(command.Key);
-    items.insert(command.Items.begin(), command.Items.end());
-  }
-  for (const ui::ToolButton& button : window().tbrMain.Buttons) EXPECT_EQ(1U, keys.count(button.Key)) << button.Key;
-  for (const ui::Control* control : window().Controls()) {
+TEST_F(CommandsTest, EveryWayLeadsToItsScreenAndNoneNowhere) {
+  Main.SaveSetting("Created", "1");
+  std::map<std::string, ui::MenuItem*> items;
+  std::map<std::string, const ui::ToolButton*> buttons;
+  for (const ui::ToolButton& button : Window().tbrMain.Buttons) buttons[button.Key] = &button;
+  for (ui::Control* control : Window().Controls()) {
     if (control->Kind() != ui::ControlKind::MenuItem) continue;
-    const auto& item = static_cast<const ui::MenuItem&>(*control);
-    if (!item.Items.empty() || item.Caption == "-") continue;
-    EXPECT_EQ(1U, items.count(std::string(item.Name()))) << item.Name();
-    EXPECT_TRUE(item.Click) << item.Name();
+    auto* item = static_cast<ui::MenuItem*>(control);
+    if (item->Items.empty() && item->Caption != "-") items[std::string(item->Name())] = item;
   }
+  for (const Command& command : Switchboard) {
+    const auto opens = [&](const std::function<void()>& act) {
+      if (command.Form.empty()) return;
+      Host.OnModal(command.Form, [](ui::Form& form) { form.CloseBox(); });
+      act();
+      Host.SelectOnly(Window().lvwComputers, 0);
+    };
+    if (!command.Key.empty()) opens([&] { Host.Press(Window().tbrMain, command.Key); });
+    buttons.erase(command.Key);
+    for (const std::string& name : command.Items) {
+      ASSERT_TRUE(items.contains(name) && items[name]->Click) << name;
+      opens([&] { Host.Click(*items[name]); });
+      items.erase(name);
+    }
+  }
+  for (const auto& [name, item] : items) ADD_FAILURE() << name << " leads nowhere";
+  for (const auto& [key, button] : buttons) ADD_FAILURE() << key << " leads nowhere";
+  // Keys of the toolbar are compared without regard to case.
+  Host.OnModal("frmControlService", [](ui::Form& form) { form.CloseBox(); });
+  Window().tbrMain.ButtonClick("StartService");
 }
 
 TEST_F(CommandsTest, OtherCommandsActAtOnce) {
-  frmCVMain& main = window();
+  frmCVMain& main = Window();
   const std::string site = "xdg-open \"https://www.tarnwick.example";
-  host.Press(main.tbrMain, "eventviewer");
-  host.Click(main.mnuFileEventViewer);
-  host.Click(main.mnuHelpVisitTarnwick);
-  host.Click(main.mnuHelpTarnwickSoftwareCatalog);
-  host.Click(main.mnuHelpUpgradeCheck);
-  EXPECT_EQ((std::vector<std::string>{"eventvwr MERA", "eventvwr MERA", site + "\"", site + "/catalog\"",
-                                      site + "/upgrade?Product=CV&Version=1.0.0\""}),
-            launcher.Ran);
-  EXPECT_EQ("11_16_2026_14_5_9", console.Setting("LastUpgradeCheck"));
-  host.OnBox("Please select one of the wizards/tools by clicking the down arrow next to this button.");
-  host.Press(main.tbrMain, "databasetools");
-  host.PressItem(main.tbrMain, "databasetools", "Creating Tables on Other ODBC Servers");
-  host.Click(main.mnuDatabaseOther);
-  host.Click(main.mnuHelpCVHelpFile);
-  EXPECT_EQ((std::vector<int>{670, 670, 0}), host.HelpTopics);
+  for (ui::MenuItem* item : {&main.mnuFileEventViewer, &main.mnuHelpVisitTarnwick, &main.mnuHelpTarnwickSoftwareCatalog,
+                             &main.mnuHelpUpgradeCheck, &main.mnuHelpCVHelpFile})
+    Host.Click(*item);
+  Host.Press(main.tbrMain, "eventviewer");
+  EXPECT_EQ((std::vector<std::string>{"eventvwr MERA", site + "\"", site + "/catalog\"",
+                                      site + "/upgrade?Product=CV&Version=1.0.0\"", "eventvwr MERA"}),
+            Programs.Ran);
+  EXPECT_EQ("11_16_2026_14_5_9", Console.Setting("LastUpgradeCheck"));
+  Programs.Fails = true;
+  OnMessage("NoEventViewer");
+  Host.Press(main.tbrMain, "eventviewer");
+  OnMessage("PickATool");
+  Host.Press(main.tbrMain, "databasetools");
+  Host.PressItem(main.tbrMain, "databasetools", "Creating Tables on Other ODBC Servers");
+  Host.Click(main.mnuDatabaseOther);
+  EXPECT_EQ((std::vector<int>{0, 670, 670}), Host.HelpTopics);
+  EXPECT_THROW(Host.Click(main.mnuFileExit), ui::ProgramEnd);
+  EXPECT_TRUE(Host.HelpTopics.empty());
+  EXPECT_EQ(nullptr, Main.ConfigConnection);
+}
+
+TEST_F(CommandsTest, TheEditorIsToldWhatItEditsAndAboutClosesByAClick) {
+  Host.OnModal("frmLogEdit", [&](ui::Form& form) {
+    EXPECT_EQ("MERA Application", Main.SelectedName + " " + Main.SelectedDetail);
+    EXPECT_FALSE(Main.IsNewLog);
+    form.CloseBox();
+  });
+  Host.Click(Window().mnuHiddenEdit);
+  Window().lvwComputers.SelectNone();
+  Host.Press(Window().tbrMain, "edit");
+  Host.OnModal("frmLogEdit", [&](ui::Form& form) {
+    EXPECT_TRUE(Main.IsNewLog);
+    form.CloseBox();
+  });
+  Host.Press(Window().tbrMain, "add");
+  Host.OnModal<frmStartup>("frmStartup", [&](frmStartup& about) {
+    EXPECT_FALSE(about.prgStartup.Visible || about.lblProgress.Visible);
+    about.Click();
+  });
+  Host.Click(Window().mnuHelpAbout);
 }
 
 TEST_F(CommandsTest, ServicesAreStartedAndStopped) {
-  frmCVMain& main = window();
+  frmCVMain& main = Window();
   const struct {
     const char *Service, *Name;
-    int Panel;
+    std::size_t Panel;
     ui::MenuItem *Start, *Stop;
   } services[] = {
       {"Corvane Service", "The Corvane Service", 1, &main.mnuOptionsStartService, &main.mnuOptionsStopService},
       {"CVSyslogBridge", "The Syslog Bridge Service", 2, &main.mnuOptionsStartService2, &main.mnuOptionsStopService2}};
   for (const auto& one : services) {
-    SCOPED_TRACE(one.Service);
-    const std::string name = one.Name;
-    const std::string panel = name.substr(4) + " ";
-    SetService(one.Service, "stopped");
-    host.OnBox(name + " is already stopped.");
-    one.Stop->Click();
-    EXPECT_EQ(ui::MsgIcon::Exclamation, host.Boxes.back().Icon);
-    host.OnBox(name + " has been started successfully.");
-    host.Click(*one.Start);
-    EXPECT_EQ(ui::MsgIcon::Information, host.Boxes.back().Icon);
-    EXPECT_EQ(panel + "running", Panel(one.Panel));
-    // On its way down a service still counts as running.
-    SetService(one.Service, "stop pending");
-    host.OnBox(name + " is already running.");
-    one.Start->Click();
-    host.Click(*one.Stop);
-    SetService(one.Service, "running");
-    host.OnBox(name + " has been stopped successfully.");
-    host.Click(*one.Stop);
-    EXPECT_EQ(panel + "stopped", Panel(one.Panel));
-    // A service that cannot be opened is not "already" anything, and a request that fails says nothing.
-    SetService(one.Service, "running", "everything");
-    one.Start->Click();
-    one.Stop->Click();
-    EXPECT_EQ(panel + "stopped", Panel(one.Panel));
+    const struct {
+      const char *State, *Refuses;
+      ui::MenuItem* Item;
+      const char *Told, *Shown;
+    } steps[] = {{"stopped", "nothing", one.Stop, "AlreadyStopped", "stopped"},
+                 {"stopped", "nothing", one.Start, "Started", "running"},
+                 // On its way down a service still counts as running.
+                 {"stop pending", "nothing", one.Start, "AlreadyRunning", "running"},
+                 {"stop pending", "nothing", one.Stop, nullptr, "running"},
+                 {"running", "nothing", one.Stop, "Stopped", "stopped"},
+                 // A service that cannot be opened is not "already" anything, and a request that fails says nothing.
+                 {"running", "everything", one.Start, nullptr, "stopped"},
+                 {"running", "everything", one.Stop, nullptr, "stopped"}};
+    for (const auto& step : steps) {
+      SetService(one.Service, step.State, step.Refuses);
+      if (step.Told) OnMessage(step.Told, one.Name);
+      step.Item->Click();
+      EXPECT_EQ(std::string(one.Name).substr(4) + " " + step.Shown, Panel(one.Panel));
+    }
   }
   EXPECT_EQ(ui::Pointer::Default, main.lvwComputers.MousePointer);
 }
 
 TEST_F(CommandsTest, TheOptionsMenuReadsTheStatesAnew) {
-  frmCVMain& main = window();
+  frmCVMain& main = Window();
   SetService("Corvane Service", "running");
   SetService("CVSyslogBridge", "running", "everything");
   main.mnuOptions.Click();
-  EXPECT_EQ("Corvane Service running", Panel(1));
-  EXPECT_EQ("Syslog Bridge Service stopped", Panel(2));
+  EXPECT_EQ("Corvane Service running, Syslog Bridge Service stopped", Panel(1) + ", " + Panel(2));
   EXPECT_FALSE(main.mnuOptionsStartService.Enabled || main.mnuOptionsStopService2.Enabled);
   EXPECT_TRUE(main.mnuOptionsStopService.Enabled && main.mnuOptionsStartService2.Enabled);
 }
 
 TEST_F(CommandsTest, TheServiceDialogOffersWhatCanBeDone) {
   const struct {
-    bool Start;
-    const char *Monitoring, *Bridge, *First, *Second;
+    std::string Action, Monitoring, Bridge, Refuses, Shown;
     int Chosen;
-  } cases[] = {{true, "stopped", "running", "&Start the Corvane Service (currently stopped)+",
-                "S&tart the Corvane Syslog Bridge Service (currently running)-", 0},
-               {true, "running", "stopped", "&Start the Corvane Service (currently running)-",
-                "S&tart the Corvane Syslog Bridge Service (currently stopped)+", 1},
-               {true, "running", "stop pending", "&Start the Corvane Service (currently running)-",
-                "S&tart the Corvane Syslog Bridge Service (currently running)-", -1},
-               {false, "stopped", "running", "&Stop the Corvane Service (currently stopped)-",
-                "S&top the Corvane Syslog Bridge Service (currently running)+", 1},
-               {false, "running", "stopped", "&Stop the Corvane Service (currently running)+",
-                "S&top the Corvane Syslog Bridge Service (currently stopped)-", 0}};
+  } cases[] = {{"Start", "stopped", "running", "nothing", "stopped)+ running)-", 0},
+               {"Start", "running", "stopped", "nothing", "running)- stopped)+", 1},
+               {"Start", "running", "stop pending", "nothing", "running)- running)-", -1},
+               {"Stop", "stopped", "running", "nothing", "stopped)- running)+", 1},
+               {"Stop", "running", "stopped", "nothing", "running)+ stopped)-", 0},
+               // What cannot be opened counts as stopped.
+               {"Start", "stopped", "running", "everything", "stopped)+ stopped)+", 0}};
   for (const auto& c : cases) {
     SetService("Corvane Service", c.Monitoring);
-    SetService("CVSyslogBridge", c.Bridge);
-    host.OnModal<frmControlService>("frmControlService", [&](frmControlService& form) {
-      const auto shown = [](const ui::OptionButton& option) { return option.Caption + (option.Enabled ? "+" : "-"); };
-      EXPECT_EQ(c.First, shown(form.optControlService[0]));
-      EXPECT_EQ(c.Second, shown(form.optControlService[1]));
+    SetService("CVSyslogBridge", c.Bridge, c.Refuses);
+    Host.OnModal<frmControlService>("frmControlService", [&](frmControlService& form) {
+      const auto shown = [](const ui::OptionButton& option) {
+        return option.Caption.substr(option.Caption.rfind(' ') + 1) + (option.Enabled ? "+" : "-");
+      };
+      EXPECT_EQ(c.Shown, shown(form.optControlService[0]) + " " + shown(form.optControlService[1]));
       EXPECT_EQ(c.Chosen, ui::ChosenOption(form.optControlService));
-      EXPECT_EQ(c.Start ? "Start" : "Stop", form.cmdAction.Caption);
       EXPECT_EQ(c.Chosen >= 0, form.cmdAction.Enabled);
       if (c.Chosen < 0) return form.CloseBox();
-      host.OnBox(std::string(c.Chosen == 0 ? "The Corvane Service" : "The Syslog Bridge Service") + " has been " +
-                 (c.Start ? "started" : "stopped") + " successfully.");
-      host.Click(form.cmdAction);
+      if (c.Refuses == "everything")
+        Host.Choose(form.optControlService[1]);
+      else
+        OnMessage(c.Action == "Start" ? "Started" : "Stopped",
+                  c.Chosen == 0 ? "The Corvane Service" : "The Syslog Bridge Service");
+      Host.Click(form.cmdAction);
     });
-    host.Press(window().tbrMain, c.Start ? "startservice" : "stopservice");
+    Host.Press(Window().tbrMain, c.Action == "Start" ? "startservice" : "stopservice");
   }
-  // A missing service counts as stopped.
-  SetService("CVSyslogBridge", "running", "everything");
-  host.OnModal<frmControlService>("frmControlService", [&](frmControlService& form) {
-    EXPECT_TRUE(form.optControlService[1].Enabled);
-    host.Choose(form.optControlService[1]);
-    host.Click(form.cmdAction);
-  });
-  host.Press(window().tbrMain, "startservice");
 }
 
 TEST_F(CommandsTest, TheUserIsRemindedOfUpgradesAfterSixtyDays) {
-  const std::string question =
-      "It has been over 60 days since you last checked available upgrades for Corvane.  Would you like to check for "
-      "upgrades now?";
   const auto remind = [&](const std::string& last) {
-    app.State().SaveSetting("LastUpgradeCheck", last);
-    window().tmrUpgradeCheck.Enabled = true;
-    host.Pass(14999);
-    EXPECT_TRUE(window().tmrUpgradeCheck.Enabled);
-    host.Pass(60000);
-    EXPECT_FALSE(window().tmrUpgradeCheck.Enabled);
-    return console.Setting("LastUpgradeCheck");
+    Main.SaveSetting("LastUpgradeCheck", last);
+    Window().tmrUpgradeCheck.Enabled = true;
+    Host.Pass(14999);
+    EXPECT_TRUE(Window().tmrUpgradeCheck.Enabled);
+    Host.Pass(60000);
+    EXPECT_FALSE(Window().tmrUpgradeCheck.Enabled);
+    return Console.Setting("LastUpgradeCheck");
   };
   // Exactly 60 days are not over 60 days; what cannot be read asks nothing.
   for (const char* last : {"", "soon", "11_16_2026", "9_17_2026_14_5_9"}) EXPECT_EQ(last, remind(last));
-  host.OnBox(question, ui::MsgResult::No);
+  OnMessage("Upgrade", "", ui::MsgResult::No);
   EXPECT_EQ("11_16_2026_14_5_9", remind("9_17_2026_14_5_8"));
-  EXPECT_TRUE(launcher.Ran.empty());
-  host.OnBox(question, ui::MsgResult::Yes);
+  EXPECT_TRUE(Programs.Ran.empty());
+  OnMessage("Upgrade", "", ui::MsgResult::Yes);
   remind("1_1_2020_0_0_0");
-  EXPECT_EQ(1U, launcher.Ran.size());
+  EXPECT_EQ(1U, Programs.Ran.size());
+}
+
+TEST_F(CommandsTest, ALinkStandsInItsPlaceOrBehindTheCommandOfTheBrowser) {
+  const std::pair<const char*, const char*> browsers[] = {
+      {"b.exe -u \"%1\" \"%1\"", "b.exe -u \"https://x.example/?a=%1\" \"%1\""},
+      {"b.exe", "b.exe https://x.example/?a=%1"}};
+  const auto open = [&](const char* registered) {
+    Main.Registry.SetKeyValueHKCR("http\\shell\\open\\command", "", registered, registry::String);
+    OpenInBrowser(Main, "https://x.example/?a=%1");
+  };
+  for (const auto& [registered, command] : browsers) {
+    open(registered);
+    EXPECT_EQ(command, Programs.Ran.back());
+  }
+  OnMessage("NoBrowser", "https://x.example/?a=%1");
+  open("");
 }
 
 }  // namespace

@@ -1,30 +1,13 @@
-#include <gtest/gtest.h>
-
-#include "platform/RuntimeError.h"
+#include "support/ConsoleTest.h"
 #include "support/LogRows.h"
-#include "support/TestConsole.h"
 
 namespace corvane::test {
 namespace {
 
-class MainWindowTest : public ::testing::Test {
+class MainWindowTest : public ConsoleTest {
  protected:
-  MainWindowTest() { console.Start(); }
+  MainWindowTest() { Console.Start(); }
 
-  frmCVMain& Window() { return console.Window(); }
-  ScriptedHost& Host() { return console.Host; }
-
-  void Register(const std::string& computer, int log, const std::string& domain = "MERIDIAN", bool deleted = false) {
-    console.Rows("INSERT INTO RegisteredServers VALUES ('" + computer + std::to_string(log) + "', '" + domain + "', '" +
-                 computer + "', " + std::to_string(log) + ", 0, " + (deleted ? "1" : "0") + ", 0, 0)");
-  }
-  void SetStatistics(const std::string& idName, const std::string& lastCheck, const std::string& scanTime) {
-    const char* key = "Software\\Tarnwick\\Corvane\\Statistics";
-    Reghack& settings = console.App.State().Registry;
-    settings.CreateNewKey(key, registry::LocalMachine);
-    settings.SetKeyValue(key, idName + "_LastCheck", lastCheck, registry::String);
-    settings.SetKeyValue(key, idName + "_ScanTime", scanTime, registry::String);
-  }
   /// The cells of the list in the order shown, rows parted by line breaks.
   std::string Shown(std::initializer_list<int> columns = {0, 1}) {
     std::string all;
@@ -34,79 +17,78 @@ class MainWindowTest : public ::testing::Test {
     }
     return all;
   }
-  std::string Count() { return Window().stbMain.Panels[0].Text; }
-  void Refresh() { Host().Click(Window().mnuViewRefresh); }
-  void ClickColumn(int column) { Window().lvwComputers.ColumnClick(column); }
-
-  TestConsole console;
+  /// The same after a click on a column.
+  std::string Sorted(int column, std::initializer_list<int> columns) {
+    Window().lvwComputers.ColumnClick(column);
+    return Shown(columns);
+  }
+  void Refresh() { Host.Click(Window().mnuViewRefresh); }
 };
 
 TEST_F(MainWindowTest, ListsTheLogsOfTheDomainThatAreNotMarked) {
-  Register("merb", 3);
-  Register("MERA", 4);
-  Register("MERA", 1);
-  Register("MERC", 9);
-  Register("MERD", 1, "MERIDIAN", true);
-  Register("HBRA", 6, "HARBOR");
+  for (const auto& [computer, log] : {std::pair("merb", 3), {"MERA", 4}, {"MERA", 1}, {"MERC", 9}})
+    Watch(computer, log);
+  Watch("MERD", 1, "MERIDIAN", true);
+  Watch("HBRA", 6, "HARBOR");
   Refresh();
   EXPECT_EQ("MERA|Application\nMERA|DNS Server\nmerb|Security\nMERC|\n", Shown());
-  EXPECT_EQ("4 log(s) watched by Corvane", Count());
-  console.ChooseDomain("HARBOR");
+  EXPECT_EQ("4 log(s) watched by Corvane", Panel(0));
+  Console.ChooseDomain("HARBOR");
   EXPECT_EQ("HBRA|File Replication Service\n", Shown());
-  console.ChooseDomain("DEPOT");
-  EXPECT_EQ("0 log(s) watched by Corvane", Count());
+  Console.ChooseDomain("DEPOT");
+  EXPECT_EQ("0 log(s) watched by Corvane", Panel(0));
   EXPECT_TRUE(Window().lvwComputers.MultiSelect());
 }
 
 TEST_F(MainWindowTest, CountsAlarmsSinglyAndThroughBundles) {
-  Register("MERA", 2);
-  Register("MERB", 2);
-  const std::string row = " VALUES ('mera2', 'MERIDIAN', ";
-  const std::string disk = AlarmId(console, "Disk Bad Block", "Disk and File System_2");
+  for (const char* computer : {"MERA", "MERB"}) Watch(computer, 2);
+  const auto add = [&](const std::string& table, const std::string& fields, const std::string& values) {
+    Console.Rows("INSERT INTO " + table + " (" + fields + ") VALUES (" + values + ")");
+  };
+  const std::string fields = "IDName, Domain, ", row = "'mera2', 'MERIDIAN', ";
+  const std::string disk = AlarmId(Console, "Disk Bad Block", "Disk and File System_2");
   // One alarm in two attached bundles, one of them attached twice, and once on its own.
-  console.Rows("INSERT INTO AlarmGroups (Name) VALUES ('Other')");
-  const std::string other = Id(console, "AlarmGroups", "Other");
-  const std::string disks = Id(console, "AlarmGroups", "Disk and File System");
-  console.Rows("INSERT INTO AlarmsInGroups (AlarmID, AlarmGroupID) VALUES (" + disk + ", " + other + ")");
+  add("AlarmGroups", "Name", "'Other'");
+  const std::string other = Id(Console, "AlarmGroups", "Other");
+  const std::string disks = Id(Console, "AlarmGroups", "Disk and File System");
+  add("AlarmsInGroups", "AlarmID, AlarmGroupID", disk + ", " + other);
   for (const std::string& bundle : {other, disks, disks})
-    console.Rows("INSERT INTO AlarmGroupsForLogs (IDName, Domain, AlarmGroupID)" + row + bundle + ")");
-  console.Rows("INSERT INTO AlarmsForLogs (IDName, Domain, AlarmID)" + row + disk + ")");
-  console.Rows("INSERT INTO DenyAlarmsForLogs (IDName, Domain, AlarmID)" + row + disk + ")");
-  console.Rows("INSERT INTO NotificationsForLogs (IDName, Domain, NotificationName)" + row + "'Duty Desk Popup')");
+    add("AlarmGroupsForLogs", fields + "AlarmGroupID", row + bundle);
+  for (const char* table : {"AlarmsForLogs", "DenyAlarmsForLogs"}) add(table, fields + "AlarmID", row + disk);
+  add("NotificationsForLogs", fields + "NotificationName", row + "'Duty Desk Popup'");
   Refresh();
   EXPECT_EQ("MERA|10|1\nMERB|0|0\n", Shown({0, 4, 5}));
 }
 
 // A table that fails takes away its own count and no row.
 TEST_F(MainWindowTest, AFailingTableLeavesTheRows) {
-  Register("MERA", 2);
-  console.Rows("INSERT INTO AlarmsForLogs (IDName, Domain, AlarmID) VALUES ('MERA2', 'MERIDIAN', 1)");
-  console.Rows("INSERT INTO NotificationsForLogs VALUES ('MERA2', 'MERIDIAN', 'Duty Desk Popup')");
-  const struct {
-    const char* Failing;
-    const char* Shown;
-    const char* Count;
-  } cases[] = {{"FROM AlarmsForLogs", "MERA|0|1\n", "1"},
-               {"FROM NotificationsForLogs", "MERA|1|0\n", "1"},
-               {"AlarmsInGroups", "MERA||1\n", "1"},
-               {"FROM RegisteredServers", "", "0"}};
-  for (const auto& one : cases) {
-    console.Data.Fails = [&](const std::string& sql) { return sql.find(one.Failing) != std::string::npos; };
+  Watch("MERA", 2);
+  Console.Rows("INSERT INTO AlarmsForLogs (IDName, Domain, AlarmID) VALUES ('MERA2', 'MERIDIAN', 1)");
+  Console.Rows("INSERT INTO NotificationsForLogs VALUES ('MERA2', 'MERIDIAN', 'Duty Desk Popup')");
+  const char* const cases[][3] = {{"FROM AlarmsForLogs", "MERA|0|1\n", "1"},
+                                  {"FROM NotificationsForLogs", "MERA|1|0\n", "1"},
+                                  {"AlarmsInGroups", "MERA||1\n", "1"},
+                                  {"FROM RegisteredServers", "", "0"}};
+  for (const auto& [failing, shown, count] : cases) {
+    Console.Data.Fails = [&, name = failing](const std::string& sql) { return sql.find(name) != std::string::npos; };
     Refresh();
-    EXPECT_EQ(one.Shown, Shown({0, 4, 5})) << one.Failing;
-    EXPECT_EQ(std::string(one.Count) + " log(s) watched by Corvane", Count());
+    EXPECT_EQ(shown, Shown({0, 4, 5})) << failing;
+    EXPECT_EQ(std::string(count) + " log(s) watched by Corvane", Panel(0));
   }
-  console.Data.Fails = nullptr;
+  Console.Data.Fails = nullptr;
   Refresh();
   EXPECT_EQ("MERA|1|1\n", Shown({0, 4, 5}));
 }
 
 TEST_F(MainWindowTest, StatisticsFillTheirCellsAndNoOthers) {
-  for (int log = 1; log <= 5; ++log) Register("MERA", log);
-  SetStatistics("MERA1", "11_16_2026_0_0_7", "12");
-  SetStatistics("MERA2", "11_15_2026_13_59_0", "7");
-  SetStatistics("MERA3", "soon", "long");
-  SetStatistics("MERA4", "", "");
+  const char* const statistics[][2] = {
+      {"11_16_2026_0_0_7", "12"}, {"11_15_2026_13_59_0", "7"}, {"soon", "long"}, {"", ""}};
+  int log = 0;
+  for (const auto& [lastCheck, scanTime] : statistics) {
+    Watch("MERA", ++log);
+    SetStatistics("MERA" + std::to_string(log), {{"LastCheck", lastCheck}, {"ScanTime", scanTime}});
+  }
+  Watch("MERA", 5);
   Refresh();
   EXPECT_EQ(
       "12:00:07 AM|12 sec(s)|0000.0007|000012\n01:59:00 PM|7 sec(s)|0780.3540|000007\n|long sec(s)||\n|0 sec(s)||\n"
@@ -116,119 +98,81 @@ TEST_F(MainWindowTest, StatisticsFillTheirCellsAndNoOthers) {
 }
 
 TEST_F(MainWindowTest, TheFirstClickOnAColumnSortsDescending) {
-  for (const char* computer : {"MERA", "MERB", "MERC"}) Register(computer, 1);
-  Register("MERB", 2);
-  SetStatistics("MERA1", "1_1_2026_9_0_0", "100");
-  SetStatistics("MERB1", "1_2_2026_8_0_0", "9");
-  SetStatistics("MERC1", "1_1_2026_22_0_0", "20");
+  const char* const statistics[][3] = {
+      {"MERA", "1_1_2026_9_0_0", "100"}, {"MERB", "1_2_2026_8_0_0", "9"}, {"MERC", "1_1_2026_22_0_0", "20"}};
+  for (const auto& [computer, lastCheck, scanTime] : statistics) {
+    Watch(computer, 1);
+    SetStatistics(std::string(computer) + "1", {{"LastCheck", lastCheck}, {"ScanTime", scanTime}});
+  }
+  Watch("MERB", 2);
   Refresh();
-  ClickColumn(0);
-  EXPECT_EQ("MERC|Application\nMERB|Application\nMERB|System\nMERA|Application\n", Shown());
+  EXPECT_EQ("MERC|Application\nMERB|Application\nMERB|System\nMERA|Application\n", Sorted(0, {0, 1}));
   // Another domain comes in ascending order, and the flag stays: the next click goes back to ascending.
-  console.ChooseDomain("HARBOR");
-  console.ChooseDomain("MERIDIAN");
-  EXPECT_EQ("MERA", Window().lvwComputers.Item(0).Text);
-  ClickColumn(0);
-  EXPECT_EQ("MERA", Window().lvwComputers.Item(0).Text);
-  ClickColumn(2);
-  EXPECT_EQ("10:00:00 PM\n09:00:00 AM\n08:00:00 AM\n\n", Shown({2}));
-  ClickColumn(2);
-  EXPECT_EQ("\n08:00:00 AM\n09:00:00 AM\n10:00:00 PM\n", Shown({2}));
-  ClickColumn(3);
-  EXPECT_EQ("100 sec(s)\n20 sec(s)\n9 sec(s)\n0 sec(s)\n", Shown({3}));
+  Console.ChooseDomain("HARBOR");
+  Console.ChooseDomain("MERIDIAN");
+  const std::string ascending = "MERA\nMERB\nMERB\nMERC\n", byDuration = "100 sec(s)\n20 sec(s)\n9 sec(s)\n0 sec(s)\n";
+  EXPECT_EQ(ascending, Shown({0}));
+  EXPECT_EQ(ascending, Sorted(0, {0}));
+  EXPECT_EQ("10:00:00 PM\n09:00:00 AM\n08:00:00 AM\n\n", Sorted(2, {2}));
+  EXPECT_EQ("\n08:00:00 AM\n09:00:00 AM\n10:00:00 PM\n", Sorted(2, {2}));
+  EXPECT_EQ(byDuration, Sorted(3, {3}));
   // The list keeps its own order over a refill, until the computers are clicked again.
   Refresh();
-  EXPECT_EQ("100 sec(s)\n20 sec(s)\n9 sec(s)\n0 sec(s)\n", Shown({3}));
-  ClickColumn(0);
-  EXPECT_EQ("MERC\nMERB\nMERB\nMERA\n", Shown({0}));
+  EXPECT_EQ(byDuration, Shown({3}));
+  EXPECT_EQ("MERC\nMERB\nMERB\nMERA\n", Sorted(0, {0}));
 }
 
 TEST_F(MainWindowTest, TheRowOfBothKeysIsSelectedAgain) {
-  Register("MERA", 1);
-  Register("MERA", 2);
-  console.App.State().SelectedName = "mera";
-  console.App.State().SelectedDetail = "SYSTEM";
-  Refresh();
-  EXPECT_EQ(1, Window().lvwComputers.SelectedCount());
-  EXPECT_EQ("MERA2", Window().CurrentIDName());
-  Register("MERC", 9);
-  console.App.State().SelectedName = "MERC";
-  console.App.State().SelectedDetail = "";
-  Refresh();
-  EXPECT_EQ("", Window().CurrentIDName());
+  for (const auto& [computer, log] : {std::pair("MERA", 1), {"MERA", 2}, {"MERC", 9}}) Watch(computer, log);
+  const char* const cases[][3] = {{"mera", "SYSTEM", "MERA2"}, {"MERC", "", ""}};
+  for (const auto& [name, detail, selected] : cases) {
+    Main.SelectedName = name;
+    Main.SelectedDetail = detail;
+    Refresh();
+    EXPECT_EQ(1, Window().lvwComputers.SelectedCount());
+    EXPECT_EQ(selected, Window().CurrentIDName());
+  }
 }
 
 TEST_F(MainWindowTest, SyslogDevicesHaveTheirOwnListAndOrder) {
-  console.Rows("INSERT INTO SyslogDevices VALUES ('router', '10.0.0.9'), ('Firewall', '10.0.0.10')");
-  Host().BringToFront(Window().tabMain, 1);
+  Console.Rows("INSERT INTO SyslogDevices VALUES ('router', '10.0.0.9'), ('Firewall', '10.0.0.10')");
+  Host.BringToFront(Window().tabMain, 1);
   ui::ListView& devices = Window().lvwSyslogs;
-  ASSERT_EQ(2, devices.Count());
-  EXPECT_EQ("Firewall", devices.Item(0).Text);
-  EXPECT_EQ("2 syslog device(s) accepted by Corvane", Count());
-  devices.ColumnClick(0);
-  EXPECT_EQ("router", devices.Item(0).Text);
-  devices.ColumnClick(1);
-  EXPECT_EQ("10.0.0.9", devices.Item(0).Cell(1));
-  devices.ColumnClick(1);
-  EXPECT_EQ("10.0.0.10", devices.Item(0).Cell(1));
-  EXPECT_FALSE(console.App.State().ColumnSortState[0] || console.App.State().ColumnSortState[1]);
+  EXPECT_EQ("2 syslog device(s) accepted by Corvane", Panel(0));
+  std::string first = devices.Item(0).Text;
+  for (const int column : {0, 1, 1}) {
+    devices.ColumnClick(column);
+    first += " " + devices.Item(0).Cell(column);
+  }
+  EXPECT_EQ("Firewall router 10.0.0.9 10.0.0.10", first);
+  EXPECT_FALSE(Main.ColumnSortState[0] || Main.ColumnSortState[1]);
   devices.MouseUp(ui::MouseButton::Right);
-  EXPECT_EQ(1u, Host().Popups.size());
+  EXPECT_EQ(1u, Host.Popups.size());
 }
 
 TEST_F(MainWindowTest, CommandsFollowTheTabAndTheSelection) {
-  Register("MERA", 1);
-  Host().BringToFront(Window().tabMain, 1);
-  for (const ui::MenuItem* item : {&Window().mnuFileAdd, &Window().mnuFileEdit, &Window().mnuFileEventViewer,
-                                   &Window().mnuHiddenAdd, &Window().mnuHiddenEdit, &Window().mnuHiddenEventViewer})
-    EXPECT_FALSE(item->Enabled) << item->Name();
-  for (const char* key : {"add", "edit", "eventviewer"}) EXPECT_FALSE(Window().tbrMain.Button(key).Enabled) << key;
-  EXPECT_TRUE(Window().tbrMain.Button("refresh").Enabled);
-  Window().mnuFile.Click();
-  EXPECT_FALSE(Window().mnuFileEventViewer.Enabled);
-
-  Host().BringToFront(Window().tabMain, 0);
-  EXPECT_TRUE(Window().tbrMain.Button("eventviewer").Enabled && Window().mnuHiddenEdit.Enabled);
-  Window().mnuFile.Click();
-  Window().lvwComputers.MouseUp(ui::MouseButton::Right);
-  Window().lvwComputers.MouseUp(ui::MouseButton::Left);
-  EXPECT_EQ((std::vector<ui::MenuItem*>{&Window().mnuHidden}), Host().Popups);
-  EXPECT_FALSE(Window().mnuFileEventViewer.Enabled || Window().mnuHiddenEventViewer.Enabled);
-  Host().SelectOnly(Window().lvwComputers, 0);
-  Window().mnuFile.Click();
-  Window().lvwComputers.MouseUp(ui::MouseButton::Right);
-  EXPECT_TRUE(Window().mnuFileEventViewer.Enabled && Window().mnuHiddenEventViewer.Enabled);
-}
-
-TEST_F(MainWindowTest, CommandsOpenTheirScreens) {
-  Register("MERA", 1);
-  Refresh();
-  Host().Press(Window().tbrMain, "edit");
-  const auto cancel = [&](ui::Form& form) { form.CloseBox(); };
-  for (int i = 0; i < 2; ++i) Host().OnModal("frmLogEdit", cancel);
-  Host().Press(Window().tbrMain, "add");
-  EXPECT_TRUE(console.App.State().IsNewLog);
-  Host().SelectOnly(Window().lvwComputers, 0);
-  Host().Click(Window().mnuHiddenEdit);
-  EXPECT_FALSE(console.App.State().IsNewLog);
-  EXPECT_EQ("MERA", console.App.State().SelectedName);
-  EXPECT_EQ("Application", console.App.State().SelectedDetail);
-  Host().OnBox("The Event Viewer could not be started on this computer.");
-  Host().Press(Window().tbrMain, "eventviewer");
-  Host().OnModal<frmStartup>("frmStartup", [&](frmStartup& about) {
-    EXPECT_FALSE(about.prgStartup.Visible || about.lblProgress.Visible);
-    EXPECT_EQ("Version:  1.0.0", about.lblVersion.Caption);
-    EXPECT_EQ("Username: kbrandt", about.lblStartupInfo[0].Caption);
-    EXPECT_EQ("Computer: CVCONSOLE1", about.lblStartupInfo[1].Caption);
-    EXPECT_NE(std::string::npos, about.lblCopyright.Caption.find("2026"));
-    about.Click();
-  });
-  Host().Click(Window().mnuHelpAbout);
-  Host().Click(Window().mnuHelpCVHelpFile);
-  EXPECT_EQ((std::vector<int>{0}), Host().HelpTopics);
-  EXPECT_THROW(Host().Click(Window().mnuFileExit), ui::ProgramEnd);
-  EXPECT_TRUE(Host().HelpTopics.empty());
-  EXPECT_EQ(nullptr, console.App.State().ConfigConnection);
+  Watch("MERA", 1);
+  frmCVMain& main = Window();
+  const auto enabled = [&] {
+    main.mnuFile.Click();
+    std::string all;
+    for (const ui::MenuItem* item : {&main.mnuFileAdd, &main.mnuFileEdit, &main.mnuFileEventViewer, &main.mnuHiddenAdd,
+                                     &main.mnuHiddenEdit, &main.mnuHiddenEventViewer})
+      all += item->Enabled ? "+" : "-";
+    for (const char* key : {"add", "edit", "eventviewer", "refresh"})
+      all += main.tbrMain.Button(key).Enabled ? "+" : "-";
+    return all;
+  };
+  Host.BringToFront(main.tabMain, 1);
+  EXPECT_EQ("---------+", enabled());
+  Host.BringToFront(main.tabMain, 0);
+  main.lvwComputers.MouseUp(ui::MouseButton::Right);
+  main.lvwComputers.MouseUp(ui::MouseButton::Left);
+  EXPECT_EQ((std::vector<ui::MenuItem*>{&main.mnuHidden}), Host.Popups);
+  EXPECT_EQ("++-++-++++", enabled());
+  Host.SelectOnly(main.lvwComputers, 0);
+  main.lvwComputers.MouseUp(ui::MouseButton::Right);
+  EXPECT_EQ("++++++++++", enabled());
 }
 
 }  // namespace

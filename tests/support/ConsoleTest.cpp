@@ -51,10 +51,10 @@ void ConsoleTest::SetService(const std::string& name, const std::string& state, 
   Console.SetLab("Service " + name, "Refuses", refuses);
 }
 
-void ConsoleTest::SetStatistic(const std::string& name, const std::string& value) {
+void ConsoleTest::SetStatistics(const std::string& idName, const std::map<std::string, std::string>& values) {
   const char* key = "Software\\Tarnwick\\Corvane\\Statistics";
   Main.Registry.CreateNewKey(key, registry::LocalMachine);
-  Main.Registry.SetKeyValue(key, name, value, registry::String);
+  for (const auto& [name, value] : values) Main.Registry.SetKeyValue(key, idName + "_" + name, value, registry::String);
 }
 
 }  // namespace corvane::test

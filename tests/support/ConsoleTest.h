@@ -18,7 +18,7 @@ class ConsoleTest : public ::testing::Test {
 
   /// The next box by its name in Messages.txt; its icon is checked, and that a question is answered with Yes or No.
   void OnMessage(const std::string& name, const std::string& with = "", ui::MsgResult answer = ui::MsgResult::Ok);
-  frmCVMain& Window() { return Console.Window(); }
+  virtual frmCVMain& Window() { return Console.Window(); }
   /// The text of a panel of the status line and, where it has one, the name of its picture.
   std::string Panel(std::size_t panel);
 
@@ -26,8 +26,8 @@ class ConsoleTest : public ::testing::Test {
   void Watch(const std::string& computer, int log, const std::string& domain = "MERIDIAN", bool isMarked = false);
   /// Puts a service of the lab in a state that lasts; it may refuse "control" or "everything".
   void SetService(const std::string& name, const std::string& state, const std::string& refuses = "nothing");
-  /// What the service left about a log, such as `MERA1_LastCheck`.
-  void SetStatistic(const std::string& name, const std::string& value);
+  /// What the service left about a log, such as its `LastCheck`.
+  void SetStatistics(const std::string& idName, const std::map<std::string, std::string>& values);
 
   TestConsole Console;
   ScriptedHost& Host = Console.Host;
