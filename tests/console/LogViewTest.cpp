@@ -1,11 +1,9 @@
 #include "core/console/frmLogView.h"
 
-#include <gtest/gtest.h>
-
 #include "app/installation/TextFile.h"
 #include "core/console/EventDate.h"
 #include "platform/EventReader.h"
-#include "support/TestConsole.h"
+#include "support/ConsoleTest.h"
 
 namespace corvane::test {
 namespace {
@@ -19,17 +17,9 @@ std::string Repeat(int count, const std::string& text) {
 }
 
 // One record of each type and some of others, the newest last.
-const std::string Mixed =
-    "Sun Nov  1 08:00:00 2026\tInformation\tBackup Agent\tNot ours\n"
-    "Mon Nov  2 08:00:00 2026\tFailure Audit\tCorvane Service\tRefused\n"
-    "Mon Nov  2 08:00:01 2026\tSuccess Audit\tCorvane Service\tGranted\n"
-    "Tue Nov  3 12:30:00 2026\twarning\tCorvane Service\tIt's \"slow\" today  \n"
-    "Wed Nov  4 23:59:59 2026\tERROR\t  corvane service \tThe insert failed:\\n<script "
-    "src=\"//x.example/a.js\"></script> &amp;\n"
-    "Thu Nov  5 09:00:01 2026\tInformation\tCorvane Service\tJörg <> Müller\n"
-    "Thu Nov  5 09:00:02 2026\tError\tCorvane Service 2\tNot ours either\n";
+const std::string Mixed = ReadTextFile(CORVANE_SOURCE_DIR "/tests/console/Events.txt");
 
-class LogViewTest : public testing::Test {
+class LogViewTest : public ConsoleTest {
  protected:
   void SetLog(const std::string& text) { WriteTextFile(Log, text); }
   /// Opens the viewer; the script acts when the log has been read.
@@ -41,7 +31,7 @@ class LogViewTest : public testing::Test {
       script(form);
       form.CloseBox();
     });
-    frmLogView(Console.App.State()).ShowModal();
+    frmLogView(Main).ShowModal();
     EventRecord record;
     EXPECT_FALSE(Console.Ports.EventReader.ReadNext(record)) << "the log was left open";
   }
@@ -50,8 +40,7 @@ class LogViewTest : public testing::Test {
     Host.Click(form.cmdExport);
     EXPECT_TRUE(form.IsUnloaded() || form.cmdExport.Enabled);
   }
-  TestConsole Console;
-  ScriptedHost& Host = Console.Host;
+
   const std::filesystem::path Log = Console.Folder() / "eventlog" / "Application.log";
   const std::filesystem::path Report = Console.Folder() / "report.htm";
 };
@@ -61,24 +50,21 @@ TEST_F(LogViewTest, TheBoxesChooseWhatIsListed) {
   View([&](frmLogView& form) {
     EXPECT_EQ(form.fraEvents.Caption, "&Event Log Entries Logged By the Corvane Service Since 11/1/2026 08:00:00");
     EXPECT_EQ(form.lvEvents.SelectedRow(), 0);
+    const char* const rows[] = {"11/5/2026 09:00:01 info,", "11/3/2026 12:30:00 warning,", "11/4/2026 23:59:59 error,"};
     for (int boxes = 8; boxes-- > 0;) {
       std::string expected, listed;
-      const char* rows[] = {"11/5/2026 09:00:01 info,", "11/4/2026 23:59:59 error,", "11/3/2026 12:30:00 warning,"};
       for (const int box : {0, 2, 1}) {
         if (form.chkEventsToShow[box].Value != ((boxes >> box & 1) != 0)) Host.Click(form.chkEventsToShow[box]);
-        if (form.chkEventsToShow[box].Value) expected += rows[box == 0 ? 0 : 3 - box];
+        if (form.chkEventsToShow[box].Value) expected += rows[box];
       }
       for (const ui::ListItem& item : form.lvEvents.Items()) listed += item.Text + " " + item.Icon + ",";
-      EXPECT_EQ(listed, expected) << boxes;
+      EXPECT_EQ(listed, expected);
       EXPECT_EQ(form.txtDescription.Text, boxes == 7 ? "Jörg \r\n Müller" : "");
     }
-    Host.OnBox("Events must be present in order to prepare an HTML report.");
+    OnMessage("NoEvents");
     Host.Click(form.cmdExport);
   });
-}
-
-TEST_F(LogViewTest, LinesStandInOneCellAndComeBack) {
-  SetLog(Mixed);
+  // Lines stand in one cell and come back below the list.
   View([&](frmLogView& form) {
     const std::string lines = "The insert failed:\r\n<script src=\"//x.example/a.js\"></script> &amp;";
     Host.SelectOnly(form.lvEvents, 1);
@@ -92,7 +78,7 @@ TEST_F(LogViewTest, LinesStandInOneCellAndComeBack) {
 }
 
 TEST_F(LogViewTest, EachRefreshShowsWhatTheLogHolds) {
-  frmLogView form(Console.App.State());
+  frmLogView form(Main);
   form.Show();
   const std::string none = "none";
   for (const auto& [text, rows] :
@@ -100,7 +86,7 @@ TEST_F(LogViewTest, EachRefreshShowsWhatTheLogHolds) {
     SetLog(text);
     if (text == none) {
       std::filesystem::remove(Log);
-      Host.OnBox("Corvane could not open the local application log to view events recorded by the Corvane Service.");
+      OnMessage("NoApplicationLog");
     }
     Host.Click(form.cmdRefresh);
     // Pressed before the first reading, the button has taken its place.
