@@ -3,29 +3,12 @@
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
-#include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <map>
-#include <string>
 
-#include "platform/Conversions.h"
+#include "adapters/linux/HostPaths.h"
+#include "app/installation/TextFile.h"
 
 namespace corvane::test {
-namespace {
-
-constexpr std::string_view Installation = "C:\\Corvane";
-
-PathMap MapTo(const std::filesystem::path& folder) {
-  return [folder](const std::string& path) {
-    const bool inside = SameText(std::string_view(path).substr(0, Installation.size()), Installation);
-    std::string rest = inside ? path.substr(Installation.size()) : path;
-    std::replace(rest.begin(), rest.end(), '\\', '/');
-    return inside ? std::filesystem::path(folder.string() + rest) : std::filesystem::path(rest);
-  };
-}
-
-}  // namespace
 
 std::string Ask(const std::filesystem::path& file, const std::string& sql) {
   sqlite3* database = nullptr;
@@ -44,17 +27,14 @@ std::string Ask(const std::filesystem::path& file, const std::string& sql) {
   return text;
 }
 
-TestStore::TestStore(int format) : Provider(MapTo(Folder)) {
+TestStore::TestStore(int format) : Provider(HostPaths(Folder)) {
   // Made once and copied afterwards: every test has a file of its own, and making one waits for the disk.
   static std::map<int, std::string> made;
-  std::string& bytes = made[format];
-  if (!bytes.empty()) {
-    Place.Write("corvane.mdb", bytes);
-    return;
+  if (made[format].empty()) {
+    SqliteProvider::CreateStore(File, ReadTextFile(CORVANE_SOURCE_DIR "/data/schema.sql"), format);
+    made[format] = Place.Read("corvane.mdb");
   }
-  std::ifstream schema(CORVANE_SOURCE_DIR "/data/schema.sql");
-  SqliteProvider::CreateStore(File, std::string{std::istreambuf_iterator<char>(schema), {}}, format);
-  bytes = Place.Read("corvane.mdb");
+  Place.Write("corvane.mdb", made[format]);
 }
 
 std::unique_ptr<Connection> TestStore::Connect() {
