@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <climits>
 
+#include "support/Cases.h"
 #include "support/ChildProcess.h"
 #include "support/TempFolder.h"
 
@@ -72,27 +72,11 @@ TEST_F(IniFilesTest, ListsTheLinesOfASection) {
 }
 
 TEST_F(IniFilesTest, ChangesNothingButTheValueThatIsWritten) {
-  // The file, section, key and value, and the file afterwards.
-  const std::array<std::string, 5> cases[] = {
-      {"", "A", "k", "v", "[A]\r\nk=v\r\n"},
-      {"[A]\n Key =\told ;x\n\n;c\n[B]\r\nk=1", "a", "KEY", "new", "[A]\n Key =new\n\n;c\n[B]\r\nk=1"},
-      {"[A]\nk=1\n;c\n\n \n[B]\n", "A", "n", "2", "[A]\nk=1\n;c\nn=2\r\n\n \n[B]\n"},
-      {"[A]\nk=1", "A", "n", "2", "[A]\nk=1\r\nn=2\r\n"},
-      {"[A]", "B", "n", "2", "[A]\r\n[B]\r\nn=2\r\n"},
-      {"k=0\r\n\r\n", "", "k", "1", "k=0\r\n\r\n[]\r\nk=1\r\n"},
-      {"\xEF\xBB\xBF[A]\nk=1\n", "A", "k", "2", "\xEF\xBB\xBF[A]\nk=2\n"},
-      {"x\0y\n[A]\rk=1\r\xFF"s, "A", "k", "", "x\0y\n[A]\rk=\r\xFF"s},
-      {"[A]\nk=1\nk=2\n[A]\nk=3\n", "A", "k", "9", "[A]\nk=9\nk=2\n[A]\nk=3\n"},
-      {"[A]\nk=1\n", "A", "k", "Mü €", "[A]\nk=M\xFC \x80\n"},
-      {"[A]\nk=1\n", "Ä", "ö", "Сервер", "[A]\nk=1\n[\xC4]\r\n\xF6=Сервер\r\n"},
-      {"[A]\nk=1\n", "A", "k", "Ã¼", "[A]\nk=Ã¼\n"},
-      {"[A]\nk=1\n", "A", "k", "a\0b"s, "[A]\nk=a\n"},
-  };
-  for (const auto& [before, section, key, value, after] : cases) {
-    Folder.Write("a.ini", before);
-    EXPECT_TRUE(Set(section, key, value)) << before;
-    EXPECT_EQ(Folder.Read("a.ini"), after) << before;
-    EXPECT_EQ(Get(section, key), value.c_str()) << before;
+  for (const auto& one : test::Cases("settings/IniWrites.txt")) {
+    Folder.Write("a.ini", one[0]);
+    EXPECT_TRUE(Set(one[1], one[2], one[3])) << one[0];
+    EXPECT_EQ(Folder.Read("a.ini"), one[4]) << one[0];
+    EXPECT_EQ(Get(one[1], one[2]), one[3].c_str()) << one[0];
   }
 }
 
