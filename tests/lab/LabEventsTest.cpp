@@ -1,5 +1,6 @@
 #include "adapters/lab/LabEventReader.h"
 #include "lab/LabFixture.h"
+#include "support/Cases.h"
 
 namespace corvane {
 namespace {
@@ -31,18 +32,7 @@ TEST_F(LabEventsTest, OnlyTheLocalApplicationLogIsThere) {
 }
 
 TEST_F(LabEventsTest, RecordsAreReadUpToTheFirstThatIsNone) {
-  const std::pair<const char*, const char*> cases[] = {{"a\tb\tc\td\ne\tf\tg\th\n", "e,f,g,h|a,b,c,d|"},
-                                                       {"a\tb\tc\td\r\n", "a,b,c,d|"},
-                                                       {"a\tb\tc\td\ne\tf\tg\tunfinished", "a,b,c,d|"},
-                                                       {"unfinished", ""},
-                                                       {"\t\t\t\n", ",,,|"},
-                                                       {"a\tb\tc\t1\\n2\\t3\\\\n\n", "a,b,c,1\r\n2\t3\\n|"},
-                                                       {"a\tb\tc\td\n\ne\tf\tg\th\n", "e,f,g,h|"},
-                                                       {"a\tb\tc\td\ne\tf\tg\ne\tf\tg\th\n", "e,f,g,h|"},
-                                                       {"a\tb\tc\td\te\n", ""},
-                                                       {"a\tb\tc\td\\\n", ""},
-                                                       {"a\tb\tc\td\\x\n", ""}};
-  for (const auto& [text, records] : cases) EXPECT_EQ(Read(text), records) << text;
+  for (const auto& one : test::Cases("lab/Events.txt")) EXPECT_EQ(Read(one[0]), one[1]) << one[0];
 }
 
 // Lines of every length up to the longest lie across the blocks in which the file is read.

@@ -7,6 +7,7 @@
 #include "adapters/lab/LabServiceManager.h"
 #include "adapters/lab/LabUnitQuery.h"
 #include "lab/LabFixture.h"
+#include "support/Cases.h"
 
 namespace corvane {
 namespace {
@@ -52,18 +53,8 @@ TEST_F(LabPortsTest, EnumerationsEndEachInItsWay) {
 
 TEST_F(LabPortsTest, RightsAreGrantedToKnownAccountsAndStayInTheFile) {
   LabNetX net(Network);
-  const struct {
-    const char *Computer, *Right, *Account;
-    bool Failed;
-  } cases[] = {
-      {"DESK", "SeTcbPrivilege", R"(north\BOB)", false}, {"DESK", "SeTcbPrivilege", R"(desk\admin)", false},
-      {"DESK", "SeTcbPrivilege", R"(NORTH\bob)", false}, {"DC1", "SeServiceLogonRight", R"(SOUTH\sam)", false},
-      {"DESK", "SeTcbPrivilege", R"(NORTH\carl)", true}, {"DESK", "SeTcbPrivilege", "bob", true},
-      {"SDC", "SeTcbPrivilege", R"(EAST\eve)", true},    {"DC1", "SeTcbPrivilege", R"(DESK\Admin)", true},
-      {"WEB", "SeTcbPrivilege", R"(NORTH\bob)", true},   {"DC0", "SeTcbPrivilege", R"(NORTH\bob)", true},
-      {"DESK", "SeTcb = \n[Lab", R"(NORTH\bob)", true},
-  };
-  for (const auto& c : cases) EXPECT_EQ(net.GrantRight(c.Computer, c.Right, c.Account), c.Failed) << c.Account;
+  for (const auto& one : test::Cases("lab/Rights.txt"))
+    EXPECT_EQ(net.GrantRight(one[0], one[1], one[2]), one[3] == "true") << one[2];
   EXPECT_TRUE(net.SetServiceAccount("TOOL", "Watcher", R"(NORTH\bob)", "right!")) << "it has no such service";
   EXPECT_TRUE(net.SetServiceAccount("DESK", "Locked", R"(NORTH\bob)", "right!"));
   Text.insert(Text.find("[Computer WEB]"), "Right SeTcbPrivilege = DESK\\Admin, NORTH\\Bob\n");
@@ -96,31 +87,13 @@ TEST_F(LabPortsTest, AccountsTellControllersFromMembers) {
 
 TEST_F(LabPortsTest, UnitsAreSearchedByPathAndScope) {
   LabUnitQuery query(Network);
-  const std::string tail = ">;(objectClass=computer);name;subtree", direct = ">;(objectClass=computer);name;onelevel";
-  const std::pair<std::string, std::string> cases[] = {
-      {"<LDAP://DC1/OU=Servers,DC=north,DC=example" + tail, "DESK WEB "},
-      {"<ldap://ou=servers,dc=NORTH,dc=example" + direct, "DESK "},
-      {"<LDAP://OU=Web,OU=Servers,DC=north,DC=example" + tail, "WEB "},
-      {"<LDAP://DC=north,DC=example" + tail, "DC0 DC1 DESK WEB "},
-      {"<LDAP://OU=Nothing,DC=north,DC=example" + tail, "There is no such object on the server."},
-      {"<LDAP://SDC/DC=north,DC=example" + tail, "There is no such object on the server."},
-      {"<LDAP://DC0/DC=north,DC=example" + tail, "The network path was not found."},
-      {"<LDAP://DC=east,DC=example" + tail, "Access is denied."},
-      {"<LDAP://north.example" + tail, "DC0 DC1 DESK WEB "},
-      {"<LDAP://DC1" + tail, "DC0 DC1 DESK WEB "},
-      {"<LDAP://SHED" + tail, "There is no such object on the server."},
-      {"<LDAP://" + tail, "There is no such object on the server."},
-      {"<WinNT://NORTH" + tail, "The search query is not understood."},
-      {"<LDAP://DC=north,DC=example>;(objectClass=user);name;subtree", "The search query is not understood."},
-      {"", "The search query is not understood."},
-  };
-  for (const auto& c : cases) {
+  for (const auto& one : test::Cases("lab/Units.txt")) {
     std::string told;
     Names found;
-    const int error = ErrorOf([&] { found = query.Search(c.first); }, &told);
-    for (const std::string& name : found) told += name + " ";
-    EXPECT_EQ(told, c.second) << c.first;
-    EXPECT_EQ(error, told.ends_with('.') ? errors::AutomationError : 0) << c.first;
+    const int error = ErrorOf([&] { found = query.Search(one[0]); }, &told);
+    for (const std::string& name : found) told += (told.empty() ? "" : " ") + name;
+    EXPECT_EQ(told, one[1]) << one[0];
+    EXPECT_EQ(error, told.ends_with('.') ? errors::AutomationError : 0) << one[0];
   }
   EXPECT_EQ(query.Containers("LDAP://DC1/OU=Servers,DC=north,DC=example").at(0).Path,
             "LDAP://DC1/OU=Web,OU=Servers,DC=north,DC=example");
