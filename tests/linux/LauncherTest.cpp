@@ -8,6 +8,7 @@
 #include "adapters/linux/CommandLine.h"
 #include "adapters/linux/LinuxLauncher.h"
 #include "adapters/linux/LinuxSingleInstance.h"
+#include "support/Cases.h"
 #include "support/ChildProcess.h"
 #include "support/ErrorOf.h"
 #include "support/TempFolder.h"
@@ -20,16 +21,8 @@ using Words = std::vector<std::string>;
 using test::ErrorOf;
 
 TEST(CommandLineTest, QuotesAndBackslashesFollowTheRulesOfWindows) {
-  const std::pair<std::string, Words> cases[] = {
-      {R"(browser "http://a b/" c)", {"browser", "http://a b/", "c"}},
-      {R"("/opt/My Browser/run" %1)", {"/opt/My Browser/run", "%1"}},
-      {R"("C:\Program Files\"x y)", {R"(C:\Program Files\x)", "y"}},
-      {R"(p a\\b "c\\d" "e\\" f\\\"g)", {"p", R"(a\\b)", R"(c\\d)", R"(e\)", R"(f\"g)"}},
-      {R"(p "say ""yes"" now" "" x""y)", {"p", R"(say "yes" now)", "", "xy"}},
-      {R"(p "open end)", {"p", "open end"}},
-      {"p 'a b' $(id) `id` ; x", {"p", "'a", "b'", "$(id)", "`id`", ";", "x"}},
-  };
-  for (const auto& [line, words] : cases) EXPECT_EQ(SplitCommandLine(line), words) << line;
+  for (const auto& one : test::Cases("linux/CommandLines.txt"))
+    EXPECT_EQ(SplitCommandLine(one[0]), Words(one.begin() + 1, one.end())) << one[0];
 }
 
 class LauncherTest : public testing::Test {
