@@ -8,6 +8,7 @@
 
 #include "platform/RuntimeError.h"
 #include "platform/data/Value.h"
+#include "support/Cases.h"
 
 namespace corvane::test {
 namespace {
@@ -25,21 +26,10 @@ std::string Outcome(Work work) {
 }
 
 TEST(Conversions, RoundHalvesToEvenAndOverflowWithAnError) {
-  const std::pair<std::string, std::vector<const char*>> cases[] = {
-      {"0", {"+.5", "-0.5", "1e-999", "0e999"}},
-      {"2", {"1.5", "2.5", "15e-1", " 2 ", "2."}},
-      {"-2", {"-1.5", "-2.5"}},
-      {"-4", {"-3.5"}},
-      {"1000", {"1e3", "1E+3"}},
-      {"2147483647", {"2147483647.4"}},
-      {"-2147483648", {"-2147483648.5"}},
-      {"error 6", {"2147483647.5", "-2147483649", "1e999", "-1e999"}},
-      {"error 13", {"", " ", "-", ".", "e5", "1e", "1 2", "--1", "0x10", "1,5", "nan", "inf", "7\n"}},
-  };
-  for (const auto& [outcome, texts] : cases)
-    for (const char* text : texts) {
-      EXPECT_EQ(outcome, Outcome([&] { return TextToInt32(text); })) << text;
-      EXPECT_EQ(outcome != "error 13", IsNumeric(text)) << text;
+  for (const auto& one : Cases("platform/WholeNumbers.txt"))
+    for (std::size_t i = 1; i < one.size(); ++i) {
+      EXPECT_EQ(one[0], Outcome([&] { return TextToInt32(one[i]); })) << one[i];
+      EXPECT_EQ(one[0] != "error 13", IsNumeric(one[i])) << one[i];
     }
   EXPECT_EQ("error 6", Outcome([] { return RoundToInt32(std::nan("")); }));
 }
@@ -54,18 +44,8 @@ TEST(Conversions, KnowNumbersTooSmallFromNumbersTooLarge) {
 }
 
 TEST(Conversions, ReadUpToTheFirstOddCharacter) {
-  const std::string endsAtZero{'1', '\0', '9'};
-  const std::pair<double, std::vector<std::string>> cases[] = {
-      {0, {"", "abc", "-", "$5"}},
-      {1, {"1.0", "1e", "1e+x", endsAtZero}},
-      {12, {"12 apples", "1 2"}},
-      {123, {" 1 2\t3\n"}},
-      {1.4, {"1.4.4"}},
-      {-0.5, {"-.5x"}},
-      {200, {"2e2"}},
-  };
-  for (const auto& [number, texts] : cases)
-    for (const std::string& text : texts) EXPECT_EQ(number, Val(text)) << text;
+  for (const auto& one : Cases("platform/Beginnings.txt"))
+    for (std::size_t i = 1; i < one.size(); ++i) EXPECT_EQ(std::stod(one[0]), Val(one[i])) << one[i];
 }
 
 TEST(Conversions, CompareWithoutCaseUpToLatinLetters) {
