@@ -19,6 +19,7 @@
 #include "core/Settings.h"
 #include "core/TimeStamp.h"
 #include "platform/Conversions.h"
+#include "support/Cases.h"
 #include "support/TempFolder.h"
 
 namespace corvane {
@@ -63,43 +64,16 @@ class InstallationTest : public testing::Test {
 
 TEST_F(InstallationTest, EverySettingIsThereWithItsTypeAndWithinItsRange) {
   ASSERT_EQ(LayOut(folder_, Installation::Kind::FirstRun), "");
-  const struct {
-    std::uint32_t Least, Most;
-    std::vector<std::string> Names;
-  } numbers[] = {
-      {0, 0, {"RCAtStartup"}},
-      {0, 1, {"TurboScan", "CacheHandles", "PingTest", "UseFloodControl", "UseOperationHours", "DisableMailslots"}},
-      {0, 1, {"UseRFC3164", "TransformASF", "TransformUser", "TransformKO"}},
-      {0, 2, {"DataModemIndex"}},
-      {0, 31, {"FloodControlMask"}},
-      {0, 0xFF, {"6OperationHours"}},
-      {0, 0xFFFFFFFF, {"1OperationHours", "2OperationHours", "3OperationHours", "4OperationHours", "5OperationHours"}},
-      {1, 60, {"NumProcesses"}},
-      {1, 59999, {"SyslogPort"}},
-      {1, 65535, {"SMTPPort"}},
-      {4, 25000, {"CPURestFactor"}},
-      {5, 9999, {"AlarmFloodLimit", "AlarmFloodWindow"}},
-      {20, 300, {"ModemDisconnect"}},
-      {60, 90000, {"FloodExpiration"}},
-      {100, 5000, {"PriorRecordLimit"}},
-      {100, 9999, {"PingTimeout"}}};
-  for (const auto& [least, most, names] : numbers)
-    for (const std::string& name : names) {
-      const std::string text = Local(SettingsKey, name);
-      ASSERT_TRUE(IsNumeric(text)) << name << " is " << text;
-      const auto number = static_cast<std::uint32_t>(TextToInt32(text));
-      EXPECT_TRUE(number >= least && number <= most) << name << " is " << number;
+  for (const auto& setting : test::Cases("app/Settings.txt")) {
+    const std::string text = Local(SettingsKey, setting[0]);
+    if (setting.size() == 2) {
+      EXPECT_TRUE(text.starts_with(setting[1])) << setting[0] << " is " << text;
+      continue;
     }
-  const std::pair<const char*, std::vector<const char*>> texts[] = {
-      {R"('C:\Corvane\corvane.db')", {"ConfigMDBPath"}},
-      {R"('C:\Corvane\syslog)", {"DataFile", "DataFileEx"}},
-      {"'https://", {"CatalogHyperlink", "UpgradeHyperlink"}},
-      {"'0'", {"ComputerEnum"}},
-      {"'mail.", {"SMTPServer"}},
-      {"'corvane@", {"NotifySenderEmail"}},
-      {"''", {"PingNotification", "AgentMachines"}}};
-  for (const auto& [beginning, names] : texts)
-    for (const char* name : names) EXPECT_TRUE(Local(SettingsKey, name).starts_with(beginning)) << name;
+    ASSERT_TRUE(IsNumeric(text)) << setting[0] << " is " << text;
+    const auto number = static_cast<std::uint32_t>(TextToInt32(text));
+    EXPECT_TRUE(number >= std::stoul(setting[1]) && number <= std::stoul(setting[2])) << setting[0] << " is " << text;
+  }
   const fs::path file = folder_ / Installation::RegistryFile;
   EXPECT_NE(ValueIn(file, registry::ClassesRoot, R"(http\shell\open\command)", "").find("%1"), std::string::npos);
   const std::string modems = R"(SYSTEM\CurrentControlSet\Control\Class\{4D36E96D-E325-11CE-BFC1-08002BE10318}\000)";
