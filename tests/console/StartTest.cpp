@@ -122,6 +122,7 @@ TEST_F(Start, OnlyTheVersionsThatHaveThemGetTheNetworkObjects) {
     console.System.Version = version;
     console.Start();
     EXPECT_EQ(version >= 5, console.App.State().DirectoryApi != nullptr) << version;
+    EXPECT_EQ(version >= 6, console.App.State().HasChannelApi) << version;
     EXPECT_EQ(version >= 6, console.App.State().ChannelReader != nullptr) << version;
     EXPECT_EQ("MERIDIAN", console.Window().lstDomain.Text()) << version;
     EXPECT_EQ((Names{"MERIDIAN", "HARBOR", "DEPOT"}), console.Window().lstDomain.All()) << version;

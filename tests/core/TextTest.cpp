@@ -24,9 +24,11 @@ TEST(LogTypes, NamesAndNumbersAnswerEachOtherExactly) {
        {"Application", "System", "Security", "DNS Server", "Directory Service", "File Replication Service"}) {
     EXPECT_EQ(name, LogName(++number));
     EXPECT_EQ(number, LogNumber(name));
+    // Only the old routine says so.
+    EXPECT_EQ(number == 5 ? "Directory Server" : name, ConvNumToLogType(number));
   }
   for (const char* other : {"application", "Application ", "Directory Server", ""}) EXPECT_EQ(0, LogNumber(other));
-  for (const int other : {-1, 0, 7}) EXPECT_EQ("", LogName(other));
+  for (const int other : {-1, 0, 7}) EXPECT_EQ("", LogName(other) + ConvNumToLogType(other));
   EXPECT_EQ("server13", MakeIDName("server1", 3));
 }
 

@@ -1,47 +1,69 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include "logs/frmLogEdit.h"
-#include "support/TestConsole.h"
+#include "support/ConsoleTest.h"
+#include "support/LogRows.h"
 
 namespace corvane::test {
 
 /// A started console on the domain MERIDIAN, and what a user does on the log editor.
-class LogEditTest : public ::testing::Test {
+class LogEditTest : public ConsoleTest {
  protected:
-  LogEditTest() { console.Start(); }
-
-  ScriptedHost& Host() { return console.Host; }
-  frmCVMain& Window() { return console.Window(); }
+  LogEditTest() { Console.Start(); }
 
   using Script = std::function<void(frmLogEdit&)>;
 
-  /// Opens the editor by its command; the script runs after the loading.
+  /// Opens the editor by its command, to add or for the first log; the script runs after the loading.
   void Add(const Script& script) {
-    Host().OnModal<frmLogEdit>("frmLogEdit", Loaded(script));
-    Host().Click(Window().mnuFileAdd);
+    OnEditor(script);
+    Host.Click(Window().mnuFileAdd);
   }
-  void Edit(int row, const Script& script) {
-    Host().OnModal<frmLogEdit>("frmLogEdit", Loaded(script));
-    Host().DoubleClick(Window().lvwComputers, row);
+  void Edit(const Script& script) {
+    OnEditor(script);
+    Host.DoubleClick(Window().lvwComputers, 0);
   }
 
   /// Opens branches of the catalogue down to the node of a path such as `OS|log|category|alarm` and clicks it.
-  void PickAlarm(ui::TreeView& tree, std::vector<std::string> path) {
+  void Pick(ui::TreeView& tree, const std::string& path) {
     ui::NodeId node = 0;
-    for (std::size_t level = 0; level < path.size(); ++level) {
-      if (node != 0 && !tree.Node(node).Expanded) Host().Open(tree, node);
-      node = Child(tree, node, path[level]);
-      ASSERT_NE(0, node) << path[level];
+    std::istringstream parts(path);
+    for (std::string part; std::getline(parts, part, '|');) {
+      if (node != 0 && !tree.Node(node).Expanded) Host.Open(tree, node);
+      node = Child(tree, node, part);
+      ASSERT_NE(0, node) << part;
     }
-    Host().ClickNode(tree, node);
+    Host.ClickNode(tree, node);
   }
-  void PickRow(ui::ListView& list, const std::string& text) {
+  void Pick(ui::ListView& list, const std::string& text) {
     for (int row = 0; row < list.Count(); ++row)
-      if (list.Item(row).Text == text) return Host().SelectOnly(list, row);
+      if (list.Item(row).Text == text) return Host.SelectOnly(list, row);
     ADD_FAILURE() << "no row " << text;
   }
+  /// Picks it and clicks the button.
+  template <class List>
+  void Move(List& list, const std::string& what, ui::CommandButton& button) {
+    Pick(list, what);
+    Host.Click(button);
+  }
+  void AddDiskAlarm(frmLogEdit& form) { Move(form.tvAlarms, DiskBadBlock, form.cmdAdd); }
+  void Save(frmLogEdit& form, const std::string& refusal = "", const std::string& with = "") {
+    if (!refusal.empty()) OnMessage(refusal, with);
+    Host.Click(form.cmdOK);
+    EXPECT_EQ(refusal.empty(), form.IsUnloaded());
+    EXPECT_EQ(ui::Pointer::Default, form.MousePointer);
+  }
+  void WatchSystemLogOf(const std::string& computer, const std::string& refusal = "") {
+    Add([&](frmLogEdit& form) {
+      ChooseSystemLogOf(form, computer);
+      AddDiskAlarm(form);
+      Save(form, refusal);
+    });
+  }
+  void ChooseSystemLogOf(frmLogEdit& form, const std::string& computer) {
+    Host.Type(form.lstComputerName, computer);
+    Host.Choose(form.lstLogType, 1);
+  }
+
   static ui::NodeId Child(const ui::TreeView& tree, ui::NodeId parent, const std::string& text) {
     for (const ui::NodeId child : tree.ChildrenOf(parent))
       if (tree.Node(child).Text == text) return child;
@@ -53,36 +75,18 @@ class LogEditTest : public ::testing::Test {
     for (const ui::NodeId node : tree.Roots()) all += (all.empty() ? "" : ", ") + tree.Node(node).Text;
     return all;
   }
-  static std::string Lines(const ui::ListBox& list) {
-    std::string all;
-    for (const std::string& line : list.All()) all += line + "\n";
-    return all;
-  }
+  static std::string KeyOf(const ui::TreeView& tree, std::size_t root) { return tree.Node(tree.Roots()[root]).Key; }
 
-  void AddDiskAlarm(frmLogEdit& form) {
-    PickAlarm(form.tvAlarms, DiskBadBlock);
-    Host().Click(form.cmdAdd);
-  }
-  void WatchSystemLogOf(const std::string& computer) {
-    Add([&](frmLogEdit& form) {
-      Host().Type(form.lstComputerName, computer);
-      Host().Choose(form.lstLogType, 1);
-      AddDiskAlarm(form);
-      Host().Click(form.cmdOK);
-    });
-  }
-
-  const std::vector<std::string> DiskBadBlock{"Windows 2000/XP/2003", "System", "Disk and File System",
-                                              "Disk Bad Block"};
-  TestConsole console;
+  const std::string DiskErrors = "Windows 2000/XP/2003|System|Disk and File System", Desk = "Duty Desk Popup";
+  const std::string DiskBadBlock = DiskErrors + "|Disk Bad Block";
 
  private:
-  Script Loaded(const Script& script) {
-    return [this, script](frmLogEdit& form) {
-      Host().Pass(75);
+  void OnEditor(const Script& script) {
+    Host.OnModal<frmLogEdit>("frmLogEdit", [this, script](frmLogEdit& form) {
+      Host.Pass(75);
       script(form);
-      if (!form.IsUnloaded()) Host().Click(form.cmdCancel);
-    };
+      if (!form.IsUnloaded()) Host.Click(form.cmdCancel);
+    });
   }
 };
 
