@@ -1,13 +1,10 @@
 #include "domains/Computers.h"
 
-#include <gtest/gtest.h>
-
-#include "core/modMain.h"
 #include "domains/ToldNetX.h"
 #include "platform/DirectoryProvider.h"
 #include "platform/RuntimeError.h"
+#include "support/ConsoleTest.h"
 #include "support/ReplacedPorts.h"
-#include "support/TestConsole.h"
 
 namespace corvane::test {
 namespace {
@@ -35,18 +32,17 @@ class ToldDirectory : public DirectoryProvider, public UnitQuery {
   }
   std::vector<DirectoryContainer> Containers(const std::string&) override { return {}; }
 
-  std::vector<std::pair<std::string, long>> Accounts;
-  Names Unit;
-  std::string Asked;
-
- private:
   static Names Found(const Names& names) {
     if (names.empty()) throw RuntimeError(errors::AutomationError, "Automation error");
     return names;
   }
+
+  std::vector<std::pair<std::string, long>> Accounts;
+  Names Unit;
+  std::string Asked;
 };
 
-class Computers : public testing::Test {
+class Computers : public ConsoleTest {
  protected:
   Names List(bool includeControllers = true) {
     Names names;
@@ -54,7 +50,6 @@ class Computers : public testing::Test {
     return names;
   }
 
-  TestConsole Console;
   ToldNetX Net;
   ToldDirectory Directory;
   Platform Ports = Replace(Console.Ports, {.NetX = &Net, .Directory = &Directory, .Units = &Directory});
@@ -103,23 +98,22 @@ TEST_F(Computers, OfAUnitComeInCapitals) {
 
 TEST_F(Computers, OfTheLabFillABoxAndTheFirstIsChosen) {
   modMain& main = Console.App.State();
-  ui::Form form{Console.Host, "frmTest"};
+  ui::Form form{Host, "frmTest"};
   ui::ComboBox box{form, "lstComputers"};
-  struct {
+  const struct {
     const char *Source, *Domain, *First;
     int Count;
-  } const cases[] = {
+  } cases[] = {
       // A computer that is off has an account, but stands in no browse list; a workgroup has no accounts.
       {"0", "FIELDLAB", "BENCH1", 7}, {"1", "FIELDLAB", "CVCONSOLE1", 1}, {"0", "DEPOT", "DEPOTPDC", 7},
       {"1", "DEPOT", "DEPOTPDC", 8},  {"2", "DEPOT", "MERWEB01", 3},
   };
   main.SaveSetting("OUPath", "LDAP://OU=Web,OU=Servers,DC=meridian,DC=example");
   for (const auto& c : cases) {
-    SCOPED_TRACE(std::string(c.Source) + " " + c.Domain);
     main.SaveSetting("ComputerEnum", c.Source);
     FillComputerList(main, c.Domain, box);
     EXPECT_EQ(c.First, box.Text());
-    EXPECT_EQ(c.Count, box.Count());
+    EXPECT_EQ(c.Count, box.Count()) << c.Source << " " << c.Domain;
   }
 }
 

@@ -1,22 +1,21 @@
 #include "domains/DomainList.h"
 
-#include <gtest/gtest.h>
-
 #include <set>
 
+#include "app/installation/TextFile.h"
 #include "core/ConfigDatabase.h"
-#include "core/modMain.h"
+#include "domains/CustomDomains.h"
 #include "domains/ToldNetX.h"
 #include "platform/RuntimeError.h"
+#include "support/ConsoleTest.h"
 #include "support/ReplacedPorts.h"
-#include "support/TestConsole.h"
 
 namespace corvane::test {
 namespace {
 
 using Names = std::vector<std::string>;
 
-class DomainList : public testing::Test {
+class DomainList : public ConsoleTest {
  protected:
   DomainList() { Console.SetLab("Lab", "TimeoutMs", "1"); }
 
@@ -28,9 +27,7 @@ class DomainList : public testing::Test {
     return Box.All();
   }
 
-  TestConsole Console;
-  modMain& Main = Console.App.State();
-  ui::Form Form{Console.Host, "frmTest"};
+  ui::Form Form{Host, "frmTest"};
   ui::ComboBox Box{Form, "lstDomain"};
 };
 
@@ -89,22 +86,24 @@ TEST_F(DomainList, ChoosesTheDefaultDomainByItsExactTextElseTheFirst) {
                {"GONE", "fail", "\\\\", {}, "ALPHA", {"ALPHA"}},
                {"GAMMA", "DC9", "\\\\DC9", {"fail", "GAMMA"}, "GAMMA", {"ALPHA", "", "GAMMA"}}};
   for (const auto& c : cases) {
-    SCOPED_TRACE(c.Default);
     auto* told = new ToldDirectory;
     Main.DirectoryApi.reset(told);
     told->Controller = c.Controller;
     told->Trusts = c.Trusts;
     EXPECT_EQ(c.List, Fill(Main, c.Default));
     EXPECT_EQ(c.Chosen, Box.Text());
-    EXPECT_EQ(std::set<std::string>{c.Server}, told->Servers);
+    EXPECT_EQ(std::set<std::string>{c.Server}, told->Servers) << c.Default;
   }
 }
 
 TEST_F(DomainList, NamesControllersWithAndWithoutBackslashes) {
-  EXPECT_EQ("\\\\MERDC01 \\\\MERDC01", DomainControllerName(Main, "MERIDIAN") + " " + FlatDomainName(Main, "MERIDIAN"));
+  const auto names = [&](const char* domain) {
+    return DomainControllerName(Main, domain) + " " + FlatDomainName(Main, domain);
+  };
+  EXPECT_EQ("\\\\MERDC01 \\\\MERDC01", names("MERIDIAN"));
   EXPECT_EQ("", DomainControllerName(Main, "FIELDLAB"));
   UseDirectory();
-  EXPECT_EQ("\\\\MERDC01 MERDC01", DomainControllerName(Main, "MERIDIAN") + " " + FlatDomainName(Main, "MERIDIAN"));
+  EXPECT_EQ("\\\\MERDC01 MERDC01", names("MERIDIAN"));
   EXPECT_EQ("", FlatDomainName(Main, "FIELDLAB"));
 }
 
@@ -116,7 +115,7 @@ TEST_F(DomainList, CutsEveryTrustOfAnOldController) {
   net.Trusts = {{true, "EAST#"}, {true, "WEST#"}, {false, "LAST#"}};
   EXPECT_EQ((Names{"HOME", "EAST", "WEST", "LAST"}), Fill(main, "HOME"));
   EXPECT_EQ("HOME 8 1; \\\\PDC 1; \\\\PDC 0; \\\\PDC 0; ", net.Asked);
-  EXPECT_EQ(2, Console.Host.EventsServed);
+  EXPECT_EQ(2, Host.EventsServed);
   net.Trusts = {{true, "EAST#"}, {false, ""}, {true, "NOT ASKED#"}};
   EXPECT_EQ((Names{"HOME", "EAST"}), Fill(main, "HOME"));
   EXPECT_EQ(Names{"HOME"}, Fill(main, "HOME"));
@@ -125,21 +124,55 @@ TEST_F(DomainList, CutsEveryTrustOfAnOldController) {
 TEST_F(DomainList, EndsWithTheDomainsOfTheDatabaseInCapitals) {
   Main.InitGlobals();
   OpenConfigDatabase(Main);
-  Console.Rows(
-      "INSERT INTO RegisteredServers VALUES ('A1', 'Meridian', 'A', 1, 0, 0, 0, 0), ('A2', 'north', 'A', 1, 0, 1, 0, "
-      "0),"
-      "('A3', 'NORTH', 'A', 1, 0, 0, 0, 0), ('A4', 'CUSTOM: Lab', 'A', 1, 0, 0, 0, 0)");
+  Watch("A", 1, "Meridian");
+  Watch("A", 2, "north", true);
+  Watch("A", 3, "NORTH");
+  Watch("A", 4, "CUSTOM: Lab");
   for (const char* entry : {"MERIDIAN", "custom: shed"}) Box.AddItem(entry);
-  AddDatabaseDomains(Main, Box);
-  Names added(Box.All().begin() + 2, Box.All().end());
-  std::sort(added.begin(), added.end());
-  EXPECT_EQ((Names{"CUSTOM: LAB", "NORTH"}), added);
-  AddDatabaseDomains(Main, Box);
-  EXPECT_EQ(4, Box.Count());
+  // Nothing comes twice, and nothing where the table cannot be read.
+  for (int time = 0; time < 3; ++time) {
+    if (time == 2) Console.Data.FailAfter(0, "RegisteredServers");
+    AddDatabaseDomains(Main, Box);
+    EXPECT_EQ((std::multiset<std::string>{"MERIDIAN", "custom: shed", "CUSTOM: LAB", "NORTH"}),
+              std::multiset<std::string>(Box.All().begin(), Box.All().end()));
+  }
   EXPECT_EQ(ObjectState::Closed, Main.SharedRecordset->State());
-  Console.Data.FailAfter(0, "RegisteredServers");
-  AddDatabaseDomains(Main, Box);
-  EXPECT_EQ(4, Box.Count());
+}
+
+TEST_F(DomainList, ItsCustomDomainsAreThoseOfTheFile) {
+  const std::string mappings = ReadTextFile(CORVANE_SOURCE_DIR "/tests/domains/Mappings.txt");
+  const auto file = Console.Folder() / "cdomain.ini";
+  const auto computersOf = [&](const std::string& domain) {
+    ui::ComboBox box{Form, "lstComputers"};
+    LoadCustomDomainComputers(Main, domain, box);
+    return box.All();
+  };
+  WriteTextFile(file, mappings);
+  for (const char* entry : {"CUSTOM: OLD", "MERIDIAN", "x CUSTOM:", "CUSTOM: BRANCH", "custom: kept"})
+    Box.AddItem(entry);
+  Box.SetListIndex(1);
+  for (const bool enabled : {true, false}) {
+    Box.Enabled = enabled;
+    LoadCustomDomains(Main, Box);
+    EXPECT_EQ(enabled, Box.Enabled);
+    EXPECT_EQ((Names{"MERIDIAN", "custom: kept", "CUSTOM: BRANCH", "CUSTOM: OTHER", "CUSTOM: SÜD"}), Box.All());
+  }
+  EXPECT_EQ("MERIDIAN", Box.Text());
+  const std::pair<const char*, Names> domains[] = {{"CUSTOM: BRANCH", {"SERVER1", "SERVER2", "10.0.0.1"}},
+                                                   {"branch", {"SERVER1", "SERVER2", "10.0.0.1"}},
+                                                   {"CUSTOM: OTHER", {"SERVER5"}},
+                                                   {"CUSTOM: SÜD", {"BÜRO"}},
+                                                   {"CUSTOM: STALE", {}}};
+  for (const auto& [domain, computers] : domains) EXPECT_EQ(computers, computersOf(domain)) << domain;
+  EXPECT_EQ(mappings, ReadTextFile(file));
+  // A garbled count ends with the file, not after hours.
+  const std::pair<const char*, Names> counts[] = {{"-1", {}}, {"none", {}}, {"0", {}}, {"2000000000", {"A"}}};
+  for (const auto& [count, computers] : counts) {
+    WriteTextFile(file,
+                  std::string("[General]\r\nNumComputers=") + count + "\r\n[Computers]\r\nComputer1=A|BRANCH\r\n");
+    EXPECT_EQ(computers, computersOf("BRANCH")) << count;
+  }
+  EXPECT_TRUE(IsCustomDomain("CUSTOM: BRANCH") && !IsCustomDomain("custom: branch"));
 }
 
 }  // namespace

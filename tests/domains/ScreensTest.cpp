@@ -1,22 +1,19 @@
-#include <gtest/gtest.h>
-
 #include "app/installation/TextFile.h"
 #include "core/Settings.h"
-#include "core/modMain.h"
 #include "domains/Computers.h"
 #include "domains/CustomDomains.h"
 #include "domains/frmComputerEnum.h"
 #include "domains/frmCustomDomainManager.h"
 #include "domains/frmDomainChooser.h"
 #include "support/ChildProcess.h"
-#include "support/TestConsole.h"
+#include "support/ConsoleTest.h"
 
 namespace corvane::test {
 namespace {
 
 using ui::MsgResult;
 
-class DomainScreens : public testing::Test {
+class DomainScreens : public ConsoleTest {
  protected:
   void Prepare(int version, const std::string& domain) {
     Main.HasDirectoryApi = version >= 5;
@@ -36,14 +33,11 @@ class DomainScreens : public testing::Test {
   }
   void Remove(frmCustomDomainManager& form, int row, MsgResult answer = MsgResult::Yes) {
     Host.SelectOnly(form.lvwComputers, row);
-    Host.OnBox("Are you sure you want to delete one or more computer/domain mappings from the custom view?", answer);
+    OnMessage("RemoveMappings", "", answer);
     Host.Click(form.cmdRemove);
   }
   std::string Mappings() { return ReadTextFile(File); }
 
-  TestConsole Console;
-  ScriptedHost& Host = Console.Host;
-  modMain& Main = Console.App.State();
   std::filesystem::path File = Console.Folder() / "cdomain.ini";
 };
 
@@ -51,27 +45,19 @@ TEST_F(DomainScreens, ADefaultDomainIsSavedByItsFlatNameInCapitals) {
   const std::string workgroup = "NetBIOS (e.g. MYWORKGROUP) formatted name of your primary workgroup";
   const std::string flat = "NetBIOS (e.g. MYDOMAIN) formatted name of your primary domain";
   const std::string dns = "DNS (e.g. mydomain.example) or " + flat;
-  const char* const empty =
-      "You must enter a default domain/workgroup name before continuing.  Press 'F1' for additional help.";
-  const char* const unknown =
-      "Corvane could not locate the domain controller for the domain you have entered.  Please make sure your domain "
-      "is spelled correctly.";
-  const char* const dotted =
-      "You must enter the NetBIOS name of the domain (e.g. MYDOMAIN) before continuing.  Does the NetBIOS name of your "
-      "domain contain a period (uncommon)?  If so, press 'Yes' to continue, 'No' to re-enter the NetBIOS name.";
   const struct {
     int Version, Managing;
     std::string Stored, Shown, Help;
     const char *Typed, *Box;
     MsgResult Answer;
     std::string Saved;
-  } cases[] = {{6, 1, "", "MERIDIAN", dns, "", empty, MsgResult::Ok, ""},
+  } cases[] = {{6, 1, "", "MERIDIAN", dns, "", "NoDomain", MsgResult::Ok, ""},
                {4, 1, "", "", flat, "Mispelt", nullptr, MsgResult::Ok, "MISPELT"},
                {5, 1, "DEPOT", "DEPOT", dns, "harbor.Example", nullptr, MsgResult::Ok, "HARBOR"},
                {6, 2, "", "", workgroup, "harbor.example", nullptr, MsgResult::Ok, "HARBOR"},
-               {6, 0, "SHED", "SHED", workgroup, "a.b", unknown, MsgResult::Ok, "SHED"},
-               {4, 1, "DEPOT", "DEPOT", flat, "a.b", dotted, MsgResult::Yes, "A.B"},
-               {4, 0, "SHED", "SHED", workgroup, "a.b", dotted, MsgResult::No, "SHED"}};
+               {6, 0, "SHED", "SHED", workgroup, "a.b", "NotLocated", MsgResult::Ok, "SHED"},
+               {4, 1, "DEPOT", "DEPOT", flat, "a.b", "Dotted", MsgResult::Yes, "A.B"},
+               {4, 0, "SHED", "SHED", workgroup, "a.b", "Dotted", MsgResult::No, "SHED"}};
   for (const auto& c : cases) {
     Prepare(c.Version, c.Stored);
     Main.Registry.SetKeyValue(SettingsKey, "ManagingADomain", c.Managing, registry::Number);
@@ -82,7 +68,7 @@ TEST_F(DomainScreens, ADefaultDomainIsSavedByItsFlatNameInCapitals) {
     // The name is looked up by a directory of its own.
     Main.DirectoryApi.reset();
     form.txtStartupDomain.Text = c.Typed;
-    if (c.Box) Host.OnBox(c.Box, c.Answer);
+    if (c.Box) OnMessage(c.Box, "", c.Answer);
     Host.Click(form.cmdOK);
     EXPECT_EQ(c.Saved, Main.Setting("DefaultDomain"));
     EXPECT_EQ(c.Saved != c.Stored, form.IsUnloaded());
@@ -93,9 +79,7 @@ TEST_F(DomainScreens, ADefaultDomainIsSavedByItsFlatNameInCapitals) {
 TEST_F(DomainScreens, CancelEndsAFirstRunIfTheUserSaysSo) {
   frmDomainChooser form(Main);
   form.IsFirstRun = true;
-  for (const MsgResult answer : {MsgResult::No, MsgResult::Yes})
-    Host.OnBox("You must select a domain or workgroup to continue.  Would you like to end this application now?",
-               answer);
+  for (const MsgResult answer : {MsgResult::No, MsgResult::Yes}) OnMessage("EndNow", "", answer);
   form.CloseBox();
   EXPECT_THROW(form.CloseBox(), ui::ProgramEnd);
   EXPECT_FALSE(form.IsUnloaded());
@@ -103,7 +87,7 @@ TEST_F(DomainScreens, CancelEndsAFirstRunIfTheUserSaysSo) {
 
 TEST_F(DomainScreens, AUnitThatWasChosenGivesItsComputers) {
   Prepare(6, "MERIDIAN");
-  Host.OnBox("You must select an organizational unit with the current computer retrieval option selected!");
+  OnMessage("NoUnit");
   Host.OnChooseContainer([](const ui::Container& root, const ui::ContainersOf& containersOf) {
     return containersOf(containersOf(root.Path).at(2).Path).at(2);
   });
@@ -114,21 +98,15 @@ TEST_F(DomainScreens, AUnitThatWasChosenGivesItsComputers) {
   std::string computers;
   ForEachComputer(Main, "MERIDIAN", true, [&](const std::string& name) { computers += " " + name; });
   EXPECT_EQ("2 MERWEB01 MERWEB02 MERWEB03", Main.Setting("ComputerEnum") + computers);
-  struct {
+  const struct {
     int Version;
     const char *Domain, *Source, *Box;
     int Chosen;
-  } const cases[] = {
-      {6, "", "2", "You must enter a default domain before attempting to choose an organizational unit!", 2},
-      {5, "FIELDLAB", "2",
-       "An Active Directory server for domain FIELDLAB could not be located.  Please enter a valid domain name "
-       "(Options "
-       "Menu -> Mirelle Preferences) and try again.",
-       2},
-      {6, "MERIDIAN", "2",
-       "You did not select an organizational unit or container.  Please select one if you wish to use this option.", 2},
-      {6, "", "7", nullptr, 0},
-      {4, "MERIDIAN", "2", nullptr, 0}};
+  } cases[] = {{6, "", "2", "UnitWithoutDomain", 2},
+               {5, "FIELDLAB", "2", "NoDirectoryServer", 2},
+               {6, "MERIDIAN", "2", "UnitNotSelected", 2},
+               {6, "", "7", nullptr, 0},
+               {4, "MERIDIAN", "2", nullptr, 0}};
   Host.OnChooseContainer([](const auto&, const auto&) { return std::nullopt; });
   for (const auto& c : cases) {
     Prepare(c.Version, c.Domain);
@@ -138,7 +116,7 @@ TEST_F(DomainScreens, AUnitThatWasChosenGivesItsComputers) {
     EXPECT_EQ(c.Chosen, ui::ChosenOption(again.optRetrieve));
     EXPECT_EQ(c.Version >= 5, again.optRetrieve[2].Enabled);
     EXPECT_EQ(c.Chosen == 2, again.txtOU.Enabled && again.cmdBrowse.Enabled);
-    if (c.Box) Host.OnBox(c.Box), Host.Click(again.cmdBrowse);
+    if (c.Box) OnMessage(c.Box, c.Domain), Host.Click(again.cmdBrowse);
     const bool cancelled = c.Box && *c.Domain == 'M';
     EXPECT_EQ(*c.Source == '2' && !cancelled ? "Web" : "", again.txtOU.Text);
   }
@@ -146,7 +124,7 @@ TEST_F(DomainScreens, AUnitThatWasChosenGivesItsComputers) {
 
 TEST_F(DomainScreens, MappingsAreWrittenOverTheFormerOnesAndShownInTheMainWindow) {
   Console.Start();
-  Console.Rows("INSERT INTO RegisteredServers VALUES ('A1', 'CUSTOM: KEPT', 'A', 1, 0, 0, 0, 0)");
+  Watch("A", 1, "CUSTOM: KEPT");
   for (const bool missing : {true, false}) {
     std::filesystem::remove(File);
     if (!missing) std::ofstream{File};
@@ -162,8 +140,7 @@ TEST_F(DomainScreens, MappingsAreWrittenOverTheFormerOnesAndShownInTheMainWindow
   EXPECT_EQ(start + "3" + head + "B|GONE" + stale, Mappings());
   Console.ChooseDomain("CUSTOM: GONE");
   Edit([&](auto& form) {
-    Host.OnBox(
-        "Computer B has already been mapped to a custom domain.  To remap it, remove it before adding it again.");
+    OnMessage("MappedAlready", "B");
     Add(form, "b", "other");
     Add(form, "a", "x_gone");
     for (const char* first : {"192.0.2.7", "B"}) {
