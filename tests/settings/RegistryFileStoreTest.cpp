@@ -84,8 +84,7 @@ TEST_F(RegistryFileStoreTest, AllowsOnlyWhatAKeyWasOpenedFor) {
 TEST_F(RegistryFileStoreTest, EnumeratesInTheOrderOfTheFile) {
   for (const char* name : {"b", "C", "a"})
     EXPECT_EQ(Store.CreateKey(Key, name, AllButLinks, None) + Set(name, "1"), Ok) << name;
-  EXPECT_EQ(Store.DeleteValue(Key, "c"), Ok);
-  EXPECT_EQ(Store.DeleteValue(Key, "c"), NotFound);
+  for (const long status : {Ok, NotFound}) EXPECT_EQ(Store.DeleteValue(Key, "c"), status);
   std::string names;
   std::uint32_t index = 0;
   for (; Store.EnumValue(Key, index, Name, Value) == Ok; ++index) names += Name + " ";
@@ -96,10 +95,9 @@ TEST_F(RegistryFileStoreTest, EnumeratesInTheOrderOfTheFile) {
 }
 
 TEST_F(RegistryFileStoreTest, ADeletedKeyAndAClosedHandleStayUnusable) {
-  EXPECT_EQ(Store.DeleteKey(LocalMachine, "Software"), AccessDenied);
-  EXPECT_EQ(Store.DeleteKey(LocalMachine, ""), AccessDenied);
-  EXPECT_EQ(Store.DeleteKey(LocalMachine, "Software\\Missing"), NotFound);
-  EXPECT_EQ(Store.DeleteKey(LocalMachine, "software\\corvane"), Ok);
+  const std::pair<const char*, long> keys[] = {
+      {"Software", AccessDenied}, {"", AccessDenied}, {"Software\\Missing", NotFound}, {"software\\corvane", Ok}};
+  for (const auto& [key, status] : keys) EXPECT_EQ(Store.DeleteKey(LocalMachine, key), status) << key;
   EXPECT_EQ(Query(Key, "Kept"), KeyDeleted);
   EXPECT_EQ(Set("Kept", "1"), KeyDeleted);
   EXPECT_EQ(Store.OpenKey(LocalMachine, Settings, Read, None), NotFound);
