@@ -1,5 +1,3 @@
-#include <array>
-
 #include "adapters/lab/LabDirectoryApi.h"
 #include "adapters/lab/LabDirectoryProvider.h"
 #include "adapters/lab/LabEventLogs.h"
@@ -12,7 +10,6 @@
 namespace corvane {
 namespace {
 
-using namespace std::string_literals;
 using Names = std::vector<std::string>;
 using test::ErrorOf;
 using LabPortsTest = test::LabFixture;
@@ -31,24 +28,13 @@ std::string All(Call call) {
 
 TEST_F(LabPortsTest, EnumerationsEndEachInItsWay) {
   LabNetX net(Network);
-  const struct {
-    const char* Domain;
-    std::uint32_t Types;
-    std::string Names;
-  } servers[] = {
-      {"north", NetX::WindowsNT, " +DC1 +DESK +WEB -"},
-      {"NORTH", NetX::DomainController, " +DC1 -"},
-  };
-  for (const auto& c : servers)
-    EXPECT_EQ(All([&](auto& name, int mode) { return net.EnumServers(c.Domain, name, c.Types, mode); }), c.Names);
-  const std::pair<const char*, std::string> trusts[] = {
-      {R"(\\DC1)", " +SOUTH\0 -EAST\0"s}, {R"(\\EDC)", " -"}, {R"(\\DESK)", " -"}, {R"(\\)", " -"}};
-  for (const auto& c : trusts)
-    EXPECT_EQ(All([&](auto& name, int mode) { return net.EnumTrustedDomains(c.first, name, mode); }), c.second);
-  const std::pair<const char*, std::string> accounts[] = {
-      {R"(\\dc1)", " +ann +Bob -"}, {"", " +Admin -"}, {"TOOL", " +Administrator +Guest -"}, {"EDC", " -"}};
-  for (const auto& c : accounts)
-    EXPECT_EQ(All([&](auto& name, int mode) { return net.EnumAccounts(c.first, name, mode); }), c.second);
+  for (const auto& one : test::Cases("lab/Enumerations.txt"))
+    EXPECT_EQ(one[2], All([&](std::string& name, int mode) {
+                if (one[0] == "trusts") return net.EnumTrustedDomains(one[1], name, mode);
+                if (one[0] == "accounts") return net.EnumAccounts(one[1], name, mode);
+                return net.EnumServers(one[1], name, one[0] == "all" ? NetX::WindowsNT : NetX::DomainController, mode);
+              }))
+        << one[0] << " of " << one[1];
 }
 
 TEST_F(LabPortsTest, RightsAreGrantedToKnownAccountsAndStayInTheFile) {
@@ -102,15 +88,11 @@ TEST_F(LabPortsTest, UnitsAreSearchedByPathAndScope) {
 
 TEST_F(LabPortsTest, LogsTellTheirCountersOnceTheyAreOpen) {
   LabEventLogs logs(Network);
-  const std::array<const char*, 3> cases[] = {
-      {R"(\\DC1)", "application", "100+50"}, {"SDC", "System", "0+0"},   {"SDC", "DNS Server", "7+3"},
-      {"DC1", "Security", "none"},           {"TOOL", "System", "none"}, {"WEB", "Application", "none"},
-  };
-  for (const auto& [server, log, counters] : cases) {
-    const EventLogHandle handle = logs.Open(server, log);
+  for (const auto& one : test::Cases("lab/Counters.txt")) {
+    const EventLogHandle handle = logs.Open(one[0], one[1]);
     std::uint32_t first = 0, count = 0;
     const bool isRead = logs.GetOldestRecord(handle, first) && logs.GetNumberOfRecords(handle, count);
-    EXPECT_EQ(isRead ? std::to_string(first) + "+" + std::to_string(count) : "none", counters) << server << log;
+    EXPECT_EQ(isRead ? std::to_string(first) + "+" + std::to_string(count) : "none", one[2]) << one[0] << one[1];
     logs.Close(handle);
   }
   EXPECT_EQ(logs.OpenHandles(), 0u);
