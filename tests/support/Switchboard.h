@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "support/Cases.h"
+
 namespace corvane::test {
 
 /// A command of the main window and the ways to it: its key of the toolbar, its menu items by name. `Form` is the
@@ -14,27 +16,11 @@ struct Command {
 };
 
 /// Every command there is. A screen that comes in adds its line.
-inline const std::vector<Command> Switchboard = {
-    {"add", "frmLogEdit", {"mnuFileAdd", "mnuHiddenAdd"}},
-    {"edit", "frmLogEdit", {"mnuFileEdit", "mnuHiddenEdit"}},
-    {"delete", "", {"mnuFileDelete", "mnuHiddenDelete"}},
-    {"deletesyslog", "", {"mnuFileSyslogDelete", "mnuHiddenSyslogDelete"}},
-    {"eventviewer", "", {"mnuFileEventViewer", "mnuHiddenEventViewer"}},
-    {"refresh", "", {"mnuViewRefresh"}},
-    {"databasetools", "", {"mnuDatabaseOther"}},
-    {"viewlogentries", "frmLogView", {"mnuToolsViewLogEntries"}},
-    {"setserviceaccount", "frmServiceAccount", {"mnuOptionsServiceAccount"}},
-    {"startservice", "frmControlService", {}},
-    {"stopservice", "frmControlService", {}},
-    {"setdefaultdomain", "frmDomainChooser", {"mnuOptionsDefaultDomain"}},
-    {"customdomains", "frmCustomDomainManager", {"mnuOptionsCustomDomains"}},
-    {"retrievecomputersfrom", "frmComputerEnum", {"mnuOptionsComputerNames"}},
-    {"", "frmStartup", {"mnuHelpAbout"}},
-    {"",
-     "",
-     {"mnuFileExit", "mnuOptionsStartService", "mnuOptionsStopService", "mnuOptionsStartService2",
-      "mnuOptionsStopService2", "mnuHelpVisitTarnwick", "mnuHelpTarnwickSoftwareCatalog", "mnuHelpUpgradeCheck",
-      "mnuHelpCVHelpFile"}},
-};
+inline const std::vector<Command> Switchboard = [] {
+  std::vector<Command> commands;
+  for (const auto& one : Cases("support/Switchboard.txt"))
+    commands.push_back({one[0], one[1], {one.begin() + 2, one.end()}});
+  return commands;
+}();
 
 }  // namespace corvane::test
