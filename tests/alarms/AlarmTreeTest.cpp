@@ -1,11 +1,8 @@
 #include "alarms/AlarmTree.h"
 
-#include <gtest/gtest.h>
-
 #include "core/ConfigDatabase.h"
-#include "core/modMain.h"
 #include "platform/RuntimeError.h"
-#include "support/TestConsole.h"
+#include "support/ConsoleTest.h"
 
 namespace corvane::test {
 namespace {
@@ -13,7 +10,7 @@ namespace {
 using Lines = std::vector<std::string>;
 
 // The tree over a catalogue of a few categories and alarms.
-class AlarmTreeTest : public testing::Test {
+class AlarmTreeTest : public ConsoleTest {
  protected:
   AlarmTreeTest() {
     Console.Rows(R"(
@@ -43,11 +40,15 @@ class AlarmTreeTest : public testing::Test {
     }
     return lines;
   }
+  Lines Opened(const std::string& key) {
+    EXPECT_EQ(Lines{key + "\\DUMMYNODE"}, Below(key));
+    Open(key);
+    return Below(key);
+  }
 
-  const std::string Disk = "ALARMCAT\\2\\Disk Errors_2";
-  TestConsole Console;
-  modMain& Main = Console.App.State();
-  ui::Form Form{Console.Host, "frmTest"};
+  const std::string System = "LOGTYPE\\2\\2", Disk = "ALARMCAT\\2\\Disk Errors_2", Backups = "ALARMCAT\\2\\backup's_2",
+                    Path = "ALARM\\2\\backup's_2\\Path C:\\x", Alarm = "ALARM\\2\\Disk Errors_2\\";
+  ui::Form Form{Host, "frmTest"};
   ui::TreeView View{Form, "tvAlarms"};
   AlarmTree Tree{Main, View};
 };
@@ -56,52 +57,35 @@ TEST_F(AlarmTreeTest, GrowsLevelByLevelWithADummyBelowEveryBranch) {
   EXPECT_EQ((Lines{"OS\\2 | Windows 2000/XP/2003 | os", "OS\\1 | Windows NT 4.0 | os",
                    "OS\\3 | Windows Vista/Windows Server 2008 | os"}),
             Below(""));
-  EXPECT_EQ(Lines{"OS\\2\\DUMMYNODE"}, Below("OS\\2"));
-  Open("OS\\2");
   EXPECT_EQ((Lines{"LOGTYPE\\2\\1 | Application | editlog", "LOGTYPE\\2\\5 | Directory Service | editlog",
                    "LOGTYPE\\2\\4 | DNS Server | editlog", "LOGTYPE\\2\\6 | File Replication Service | editlog",
-                   "LOGTYPE\\2\\3 | Security | editlog", "LOGTYPE\\2\\2 | System | editlog"}),
-            Below("OS\\2"));
-  EXPECT_EQ(Lines{"LOGTYPE\\2\\2\\DUMMYNODE"}, Below("LOGTYPE\\2\\2"));
-  Open("LOGTYPE\\2\\2");
-  EXPECT_EQ((Lines{"ALARMCAT\\2\\backup's_2 | backup's | alarmcat", Disk + " | Disk Errors | alarmcat"}),
-            Below("LOGTYPE\\2\\2"));
-  EXPECT_EQ(Lines{Disk + "\\DUMMYNODE"}, Below(Disk));
-  Open(Disk);
-  EXPECT_EQ((Lines{"ALARM\\2\\Disk Errors_2\\bad block | bad block | alarm",
-                   "ALARM\\2\\Disk Errors_2\\Disk full | Disk full | alarm"}),
-            Below(Disk));
-  Open("ALARMCAT\\2\\backup's_2");
-  const std::string path = "ALARM\\2\\backup's_2\\Path C:\\x";
-  EXPECT_EQ(Lines{path + " | Path C:\\x | alarm"}, Below("ALARMCAT\\2\\backup's_2"));
-  Open(path);
-  Tree.Collapse(At(path));
-  EXPECT_EQ(Lines{}, Below(path)) << "an alarm is no branch";
-}
-
-TEST_F(AlarmTreeTest, ShowsThreeLogsForTheOldestSystemsAndSixForOthers) {
-  for (const char* os : {"OS\\1", "OS\\3"}) Open(os);
+                   "LOGTYPE\\2\\3 | Security | editlog", System + " | System | editlog"}),
+            Opened("OS\\2"));
+  // The oldest systems have three logs, the newest as many as those between.
   EXPECT_EQ((Lines{"LOGTYPE\\1\\1 | Application | editlog", "LOGTYPE\\1\\3 | Security | editlog",
                    "LOGTYPE\\1\\2 | System | editlog"}),
-            Below("OS\\1"));
-  EXPECT_EQ(6U, Below("OS\\3").size());
+            Opened("OS\\1"));
+  EXPECT_EQ(6U, Opened("OS\\3").size());
+  EXPECT_EQ((Lines{Backups + " | backup's | alarmcat", Disk + " | Disk Errors | alarmcat"}), Opened(System));
+  EXPECT_EQ((Lines{Alarm + "bad block | bad block | alarm", Alarm + "Disk full | Disk full | alarm"}), Opened(Disk));
+  EXPECT_EQ(Lines{Path + " | Path C:\\x | alarm"}, Opened(Backups));
+  Open(Path);
+  Tree.Collapse(At(Path));
+  EXPECT_EQ(Lines{}, Below(Path)) << "an alarm is no branch";
 }
 
 TEST_F(AlarmTreeTest, ReadsAfreshAtEveryOpeningAndKeepsNothingClosed) {
-  for (const auto& key : {std::string("OS\\2"), std::string("LOGTYPE\\2\\2"), Disk}) Open(key);
+  for (const std::string& key : {std::string("OS\\2"), System, Disk}) Open(key);
   Console.Rows(
       "INSERT INTO Alarms (Name, AlarmCategory) VALUES ('Controller', 'Disk Errors_2');"
       "DELETE FROM Alarms WHERE Name = 'bad block'");
   // Opened again without being closed: what is new comes, what stands stays once.
-  for (const auto& key : {Disk, std::string("LOGTYPE\\2\\2"), std::string("OS\\2")}) Open(key);
-  EXPECT_EQ(3U, Below(Disk).size());
-  EXPECT_EQ(2U, Below("LOGTYPE\\2\\2").size());
-  EXPECT_EQ(6U, Below("OS\\2").size());
+  for (const auto& [key, count] : {std::pair(Disk, 3U), {System, 2U}, {"OS\\2", 6U}}) {
+    Open(key);
+    EXPECT_EQ(count, Below(key).size());
+  }
   Tree.Collapse(At(Disk));
-  Open(Disk);
-  EXPECT_EQ((Lines{"ALARM\\2\\Disk Errors_2\\Controller | Controller | alarm",
-                   "ALARM\\2\\Disk Errors_2\\Disk full | Disk full | alarm"}),
-            Below(Disk));
+  EXPECT_EQ((Lines{Alarm + "Controller | Controller | alarm", Alarm + "Disk full | Disk full | alarm"}), Opened(Disk));
   // Closed a second time it holds one dummy still; so do the other two classes.
   for (int time = 0; time < 2; ++time) Tree.Collapse(At("OS\\2"));
   EXPECT_EQ(Lines{"OS\\2\\DUMMYNODE"}, Below("OS\\2"));
