@@ -8,10 +8,9 @@
 #include "app/installation/InstallationError.h"
 #include "support/Cases.h"
 
-namespace corvane {
-namespace {
+namespace corvane::test {
 
-Catalogue Parse(const std::string& text) {
+static Catalogue Parse(const std::string& text) {
   std::istringstream stream(text);
   return CatalogueFile("c.txt").Read(stream);
 }
@@ -44,7 +43,7 @@ TEST(CatalogueFile, ReadsEveryKindOfEntry) {
 
 TEST(CatalogueFile, TellsWhichLineBreaksARule) {
   const std::map<std::string, std::string> beginnings{{"none", ""}, {"category", category}, {"alarm", alarm}};
-  for (const auto& one : test::Cases("app/CatalogueErrors.txt")) {
+  for (const auto& one : Cases("app/CatalogueErrors.txt")) {
     std::string told;
     try {
       Parse(beginnings.at(one[0]) + one[1]);
@@ -55,5 +54,4 @@ TEST(CatalogueFile, TellsWhichLineBreaksARule) {
   }
 }
 
-}  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

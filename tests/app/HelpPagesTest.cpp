@@ -7,7 +7,6 @@
 #include "support/TestConsole.h"
 
 namespace corvane::test {
-namespace {
 
 namespace fs = std::filesystem;
 
@@ -59,5 +58,4 @@ TEST_F(HelpPagesTest, EveryPageHasItsPicture) {
     EXPECT_EQ(1U, shown.count(file.path().filename())) << file.path() << " is on no page";
 }
 
-}  // namespace
 }  // namespace corvane::test

@@ -23,14 +23,13 @@
 #include "support/Cases.h"
 #include "support/TempFolder.h"
 
-namespace corvane {
-namespace {
+namespace corvane::test {
 
 namespace fs = std::filesystem;
 
 const fs::path shipped = CORVANE_SOURCE_DIR "/data";
 
-std::string LayOut(const fs::path& folder, Installation::Kind kind, const fs::path& data = shipped) {
+static std::string LayOut(const fs::path& folder, Installation::Kind kind, const fs::path& data = shipped) {
   try {
     Installation(data).LayOut(folder, kind);
   } catch (const InstallationError& error) {
@@ -40,7 +39,7 @@ std::string LayOut(const fs::path& folder, Installation::Kind kind, const fs::pa
 }
 
 // A value of a registry file: a number in decimal, a text in quotes, nothing where there is none.
-std::string ValueIn(const fs::path& file, RegistryHandle root, const std::string& key, const std::string& name) {
+static std::string ValueIn(const fs::path& file, RegistryHandle root, const std::string& key, const std::string& name) {
   RegistryFileStore store(file);
   LinuxSystem system;
   std::string value = Reghack(store, system).GetRemoteKeyValue(key, name, root);
@@ -59,13 +58,13 @@ class InstallationTest : public testing::Test {
     return LabNetwork(folder_ / Installation::LabFile, folder_ / Installation::RegistryFile, timing);
   }
 
-  test::TempFolder place_;
+  TempFolder place_;
   const fs::path folder_ = place_.Path() / "deep" / "installation";
 };
 
 TEST_F(InstallationTest, EverySettingIsThereWithItsTypeAndWithinItsRange) {
   ASSERT_EQ(LayOut(folder_, Installation::Kind::FirstRun), "");
-  for (const auto& setting : test::Cases("app/Settings.txt")) {
+  for (const auto& setting : Cases("app/Settings.txt")) {
     const std::string text = Local(SettingsKey, setting[0]);
     if (setting.size() == 2) {
       EXPECT_TRUE(text.starts_with(setting[1])) << setting[0] << " is " << text;
@@ -233,5 +232,4 @@ TEST_F(InstallationTest, TheCommandLineSaysWhatWentWrong) {
   EXPECT_EQ(ReadTextFile(folder_ / Installation::ProgramFile), "the program");
 }
 
-}  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

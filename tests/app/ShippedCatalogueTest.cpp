@@ -7,8 +7,7 @@
 #include "app/installation/CatalogueFile.h"
 #include "platform/Conversions.h"
 
-namespace corvane {
-namespace {
+namespace corvane::test {
 
 constexpr int Security = 3, Audits = 8 + 16;
 
@@ -76,5 +75,4 @@ TEST_F(ShippedCatalogue, NoEventMeetsTwoMembersOfABundle) {
             << bundle.Name << ": " << shipped_.Alarms[bundle.Members[i]].Name;
 }
 
-}  // namespace
-}  // namespace corvane
+}  // namespace corvane::test
