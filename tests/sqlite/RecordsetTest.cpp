@@ -5,10 +5,7 @@
 #include "support/ErrorOf.h"
 #include "support/TestStore.h"
 
-namespace corvane {
-namespace {
-
-using test::ErrorOf;
+namespace corvane::test {
 
 class RecordsetTest : public testing::Test {
  protected:
@@ -27,7 +24,7 @@ class RecordsetTest : public testing::Test {
     return ToText(rows->Field(field));
   }
 
-  test::TestStore store_;
+  TestStore store_;
   std::unique_ptr<Connection> connection_ = store_.Connect();
 };
 
@@ -73,7 +70,7 @@ TEST_F(RecordsetTest, RefusesWorkOutOfTurn) {
 }
 
 TEST_F(RecordsetTest, FindGoesForwardFromTheCurrentRow) {
-  for (const auto& one : test::Cases("sqlite/Criteria.txt")) {
+  for (const auto& one : Cases("sqlite/Criteria.txt")) {
     const auto rows = Open("SELECT * FROM AlarmCategories");
     EXPECT_EQ(ErrorOf([&] { rows->Find(one[0]); }), one.size() == 1 ? errors::DataSyntax : 0) << one[0];
     if (one.size() == 2) {
@@ -146,5 +143,4 @@ TEST_F(RecordsetTest, FieldsTakeOnlyWhatTheirTypeHolds) {
             "-2147483648|1|255|5\n");
 }
 
-}  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

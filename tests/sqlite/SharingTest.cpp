@@ -6,11 +6,7 @@
 #include "support/ErrorOf.h"
 #include "support/TestStore.h"
 
-namespace corvane {
-namespace {
-
-using test::ChildProcess;
-using test::ErrorOf;
+namespace corvane::test {
 
 constexpr const char* Add = "INSERT INTO AlarmGroups (Name) VALUES ('x')";
 constexpr const char* Count = "SELECT count(*) FROM AlarmGroups";
@@ -27,7 +23,7 @@ class SharingTest : public testing::TestWithParam<const char*> {
                        std::string(size, 'x') + "')");
   }
 
-  test::TestStore store_;
+  TestStore store_;
 };
 
 TEST_P(SharingTest, AWriterHoldsUpWritersButNoReadersAndRowsInHandHoldUpNobody) {
@@ -81,7 +77,7 @@ TEST_P(SharingTest, AProcessKilledInMidTransactionLeavesNoTrace) {
 }
 
 TEST_P(SharingTest, ADiskThatTakesNoMoreLosesOnlyTheLastStatement) {
-  const int done = test::OnFullDisk(400000, [&] {
+  const int done = OnFullDisk(400000, [&] {
     const auto connection = store_.Connect();
     int error = 0, count = 0;
     for (; error == 0 && count < 100; ++count) error = ErrorOf([&] { AddLong(*connection, count, 20000); });
@@ -107,5 +103,4 @@ TEST_P(SharingTest, TransactionsEndWithTheConnection) {
 
 INSTANTIATE_TEST_SUITE_P(Journals, SharingTest, testing::Values("wal", "delete"));
 
-}  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -7,14 +7,10 @@
 #include "support/ErrorOf.h"
 #include "support/TestStore.h"
 
-namespace corvane {
-namespace {
-
-using test::ErrorOf;
-using test::TestStore;
+namespace corvane::test {
 
 TEST(AdaptSql, ChangesTheDialectAndRefusesWhatItDoesNotHave) {
-  for (const auto& one : test::Cases("sqlite/Dialect.txt")) {
+  for (const auto& one : Cases("sqlite/Dialect.txt")) {
     std::string adapted;
     EXPECT_EQ(ErrorOf([&] { adapted = AdaptSql(one[0]); }), one.size() == 1 ? errors::DataSyntax : 0) << one[0];
     EXPECT_EQ(adapted, one.size() == 1 ? "" : one[1]) << one[0];
@@ -24,7 +20,7 @@ TEST(AdaptSql, ChangesTheDialectAndRefusesWhatItDoesNotHave) {
 TEST(Statements, AllRunAndFindTheirRowsByAnIndex) {
   TestStore store;
   const auto connection = store.Connect();
-  for (const auto& one : test::Cases("sqlite/Statements.txt")) {
+  for (const auto& one : Cases("sqlite/Statements.txt")) {
     const std::string &expected = one[0], &sql = one[1];
     if (sql.find(" WHERE ") != sql.npos) {
       const std::string plan = store.Ask("EXPLAIN QUERY PLAN " + AdaptSql(sql));
@@ -52,10 +48,9 @@ TEST(Statements, FailWithTheNumbersOfTheDataLayer) {
                                            {"DataSyntax", errors::DataSyntax},
                                            {"DataNoTable", errors::DataNoTable},
                                            {"DataNoColumn", errors::DataNoColumn}};
-  for (const auto& one : test::Cases("sqlite/Failures.txt"))
+  for (const auto& one : Cases("sqlite/Failures.txt"))
     EXPECT_EQ(ErrorOf([&] { connection->Execute(one[0]); }), numbers.at(one[1])) << one[0].substr(0, 90);
   EXPECT_EQ(store.Ask("SELECT count(*) FROM RegisteredServers"), "2\n");
 }
 
-}  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -6,21 +6,18 @@
 #include "support/ErrorOf.h"
 #include "support/TestStore.h"
 
-namespace corvane {
-namespace {
+namespace corvane::test {
 
 using namespace std::string_literals;
 namespace fs = std::filesystem;
-using test::ErrorOf;
-using test::TestStore;
 
 constexpr const char* Add = "INSERT INTO AlarmGroups (Name) VALUES ('x')";
 
-std::string With(const char* provider, const std::string& file) {
+static std::string With(const char* provider, const std::string& file) {
   return std::string("provider=Microsoft.Jet.OLEDB.") + provider + "; data source = C:\\Corvane\\" + file + ";";
 }
 
-int ErrorOfOpen(TestStore& store, const std::string& connectionString) {
+static int ErrorOfOpen(TestStore& store, const std::string& connectionString) {
   const auto connection = store.Provider.NewConnection();
   const int error = ErrorOf([&] { connection->Open(connectionString); });
   EXPECT_EQ(connection->State() == ObjectState::Open, error == 0);
@@ -88,7 +85,7 @@ TEST(StoreFiles, ACatalogMakesAnEmptyDatabaseButReplacesNothing) {
   EXPECT_EQ(ErrorOfOpen(store, With("3.51", "new.mdb")), errors::DataFailure);
   for (const char* file : {"new.mdb", "notes.txt", "nowhere\\x.mdb"})
     EXPECT_EQ(ErrorOf([&] { catalog->Create(With("4.0", file)); }), errors::DataFailure) << file;
-  EXPECT_EQ(test::Ask(store.Folder / "new.mdb", "SELECT count(*) FROM sqlite_schema"), "0\n");
+  EXPECT_EQ(Ask(store.Folder / "new.mdb", "SELECT count(*) FROM sqlite_schema"), "0\n");
   EXPECT_EQ(store.Place.Read("notes.txt"), "notes");
   const fs::path failed = store.Folder / "failed.mdb";
   EXPECT_NE(ErrorOf([&] { SqliteProvider::CreateStore(failed, "CREATE TABLE A (B INTEGER); nonsense", 3); }), 0);
@@ -112,7 +109,7 @@ TEST(StoreFiles, WithoutSharedMemoryAJournalIsUsed) {
     first->Execute(Add);
     second->Execute(Add);
     for (const char* file : {"made.mdb", "corvane.mdb"})
-      EXPECT_EQ(test::Ask(store.Folder / file, "PRAGMA journal_mode"), "delete\n") << file;
+      EXPECT_EQ(Ask(store.Folder / file, "PRAGMA journal_mode"), "delete\n") << file;
   }
   EXPECT_EQ(store.Ask("SELECT count(*) FROM AlarmGroups; PRAGMA integrity_check"), "2\nok\n");
 }
@@ -122,8 +119,8 @@ TEST(StoreFiles, WithoutWriteAccessRowsCanBeReadAndNewOnesAreSeen) {
   store.Connect()->Execute(Add);
   fs::permissions(store.File, fs::perms{0444});
   fs::permissions(store.Folder, fs::perms{0555});
-  const test::ChildProcess reader([&](test::ChildProcess& self) {
-    test::ChildProcess::BecomeNobody();
+  const ChildProcess reader([&](ChildProcess& self) {
+    ChildProcess::BecomeNobody();
     const auto connection = store.Connect();
     self.Tell(ErrorOf([&] { connection->Execute("DELETE FROM AlarmGroups"); }));
     for (int i = 0; i < 3; ++i) {
@@ -150,8 +147,7 @@ TEST(StoreFiles, AReadOnlyFolderWithUnfinishedChangesIsRefused) {
   TestStore store;
   fs::permissions(store.Place.Write("corvane.mdb-wal", std::string(5000, 'x')), fs::perms{0444});
   const auto open = [&] { return store.Connect() ? 0 : -1; };
-  EXPECT_EQ(test::AsNobody(store.File, 0444, 0555, open), errors::DataFailure);
+  EXPECT_EQ(AsNobody(store.File, 0444, 0555, open), errors::DataFailure);
 }
 
-}  // namespace
-}  // namespace corvane
+}  // namespace corvane::test
