@@ -8,8 +8,7 @@
 #include "support/ChildProcess.h"
 #include "support/TempFolder.h"
 
-namespace corvane {
-namespace {
+namespace corvane::test {
 
 using namespace std::string_literals;
 
@@ -24,7 +23,7 @@ class IniFilesTest : public testing::Test {
     return Profiles.WriteString(section, key, value, "a.ini");
   }
 
-  test::TempFolder Folder;
+  TempFolder Folder;
   PathMap Map = [this](const std::string& path) { return Folder.Path() / path; };
   IniFiles Profiles{Map};
 };
@@ -72,7 +71,7 @@ TEST_F(IniFilesTest, ListsTheLinesOfASection) {
 }
 
 TEST_F(IniFilesTest, ChangesNothingButTheValueThatIsWritten) {
-  for (const auto& one : test::Cases("settings/IniWrites.txt")) {
+  for (const auto& one : Cases("settings/IniWrites.txt")) {
     Folder.Write("a.ini", one[0]);
     EXPECT_TRUE(Set(one[1], one[2], one[3])) << one[0];
     EXPECT_EQ(Folder.Read("a.ini"), one[4]) << one[0];
@@ -98,7 +97,7 @@ TEST_F(IniFilesTest, ProcessesThatWriteAtTheSameTimeLoseNothing) {
   const auto write = [&](const std::string& section) {
     for (int i = 0; i < 70; ++i) Set(section, std::to_string(i), "x");
   };
-  const test::ChildProcess other([&](test::ChildProcess&) { write("B"); });
+  const ChildProcess other([&](ChildProcess&) { write("B"); });
   write("A");
   EXPECT_EQ(other.Hear(), 0);
   for (int i = 0; i < 70; ++i) EXPECT_EQ(Get("A", std::to_string(i)) + Get("B", std::to_string(i)), "xx");
@@ -109,12 +108,11 @@ TEST_F(IniFilesTest, AWriteThatFailsLosesNothing) {
   const auto file = Folder.Path() / "a.ini";
   const std::string before = Folder.Read("a.ini");
   const auto isRefused = [&] { return !Set("A", "k", std::string(2000, 'x')) && Get("A", "k") == "1"; };
-  EXPECT_EQ(test::OnFullDisk(1000, isRefused), 1);
-  EXPECT_EQ(test::AsNobody(file, 0444, 0777, isRefused), 1);
-  EXPECT_EQ(test::AsNobody(file, 0666, 0555, isRefused), 1);
+  EXPECT_EQ(OnFullDisk(1000, isRefused), 1);
+  EXPECT_EQ(AsNobody(file, 0444, 0777, isRefused), 1);
+  EXPECT_EQ(AsNobody(file, 0666, 0555, isRefused), 1);
   EXPECT_EQ(Folder.Read("a.ini"), before);
   EXPECT_FALSE(Profiles.WriteString("A", "k", "2", "no/folder/a.ini"));
 }
 
-}  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

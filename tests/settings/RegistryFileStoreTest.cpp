@@ -10,13 +10,11 @@
 #include "support/ChildProcess.h"
 #include "support/TempFolder.h"
 
-namespace corvane {
-namespace {
+namespace corvane::test {
 
 using namespace std::string_literals;
 using namespace registry;
 namespace fs = std::filesystem;
-using test::ChildProcess;
 
 constexpr const char* Settings = "Software\\Corvane";
 constexpr int InvalidParameter = 87, DiskFull = 112, Busy = 170, AlreadyExists = 183, BadDatabase = 1009,
@@ -49,7 +47,7 @@ class RegistryFileStoreTest : public testing::Test {
     EXPECT_EQ(std::distance(fs::directory_iterator(Folder.Path()), {}), 1);
   }
 
-  test::TempFolder Folder;
+  TempFolder Folder;
   fs::path File = Folder.Path() / "registry.reg";
   RegistryFileStore Store{File};
   RegistryHandle Key = 0, None = 0;
@@ -177,10 +175,10 @@ TEST_F(RegistryFileStoreTest, WhatCannotBeWrittenIsRefusedAndNothingChanges) {
     return Get("Kept") == "1" ? status : -2;
   };
   const auto read = [&] { return RegistryFileStore(File).OpenKey(LocalMachine, Settings, Read, None); };
-  EXPECT_EQ(test::OnFullDisk(before.size() + 100, write), DiskFull);
-  EXPECT_EQ(test::AsNobody(File, 0444, 0777, write), AccessDenied);
-  EXPECT_EQ(test::AsNobody(File, 0666, 0555, write), AccessDenied);
-  EXPECT_EQ(test::AsNobody(File, 0000, 0777, read), BadDatabase);
+  EXPECT_EQ(OnFullDisk(before.size() + 100, write), DiskFull);
+  EXPECT_EQ(AsNobody(File, 0444, 0777, write), AccessDenied);
+  EXPECT_EQ(AsNobody(File, 0666, 0555, write), AccessDenied);
+  EXPECT_EQ(AsNobody(File, 0000, 0777, read), BadDatabase);
   ExpectUntouched(before);
   const int held = ::open(File.c_str(), O_RDWR);
   ASSERT_EQ(::flock(held, LOCK_EX), 0);
@@ -199,5 +197,4 @@ TEST_F(RegistryFileStoreTest, KeepsTheModeOfTheFileAndALinkToIt) {
   EXPECT_EQ(fs::status(File).permissions(), fs::perms{0640});
 }
 
-}  // namespace
-}  // namespace corvane
+}  // namespace corvane::test
