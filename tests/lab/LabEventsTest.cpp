@@ -2,10 +2,9 @@
 #include "lab/LabFixture.h"
 #include "support/Cases.h"
 
-namespace corvane {
-namespace {
+namespace corvane::test {
 
-class LabEventsTest : public test::LabFixture {
+class LabEventsTest : public LabFixture {
  protected:
   /// Everything that is read from a log of this text, each record closed by "|".
   std::string Read(const std::string& text) {
@@ -32,7 +31,7 @@ TEST_F(LabEventsTest, OnlyTheLocalApplicationLogIsThere) {
 }
 
 TEST_F(LabEventsTest, RecordsAreReadUpToTheFirstThatIsNone) {
-  for (const auto& one : test::Cases("lab/Events.txt")) EXPECT_EQ(Read(one[0]), one[1]) << one[0];
+  for (const auto& one : Cases("lab/Events.txt")) EXPECT_EQ(Read(one[0]), one[1]) << one[0];
 }
 
 // Lines of every length up to the longest lie across the blocks in which the file is read.
@@ -51,5 +50,4 @@ TEST_F(LabEventsTest, LinesAreWholeWhereverABlockEnds) {
   EXPECT_FALSE(BackwardLines(Folder.Write("endless", std::string(1'000'000, 'x'))).Previous(line));
 }
 
-}  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

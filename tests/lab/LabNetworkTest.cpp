@@ -7,16 +7,14 @@
 #include "support/Cases.h"
 #include "support/ChildProcess.h"
 
-namespace corvane {
-namespace {
+namespace corvane::test {
 
-using test::ErrorOf;
-using LabNetworkTest = test::LabFixture;
+using LabNetworkTest = LabFixture;
 
 TEST_F(LabNetworkTest, ComputersAnswerRefuseOrStaySilentEachInItsTime) {
   LabPing ping(Network);
   LabNetX net(Network);
-  for (const auto& one : test::Cases("lab/Computers.txt")) {
+  for (const auto& one : Cases("lab/Computers.txt")) {
     const std::string& name = one[0];
     const long status = std::stol(one[1]);
     std::filesystem::path file;
@@ -50,7 +48,7 @@ TEST_F(LabNetworkTest, AHandEditIsSeenAndADamagedFileIsAnErrorUntilItIsMended) {
 }
 
 TEST_F(LabNetworkTest, MistakesInTheFileAreToldWithTheirLine) {
-  for (const auto& one : test::Cases("lab/Mistakes.txt")) {
+  for (const auto& one : Cases("lab/Mistakes.txt")) {
     std::string text = Text, why;
     text.replace(text.find(one[0]), one[0].size(), one[1]);
     EXPECT_EQ(ErrorOf([&] { ReadLabModel(LabFile(text)); }, &why), errors::InvalidPropertyValue) << one[1];
@@ -70,11 +68,10 @@ TEST_F(LabNetworkTest, TwoProcessesLoseNoChangeOfEachOtherAndReadNothingHalfWrit
       });
     }
   };
-  test::ChildProcess other([&](test::ChildProcess&) { work(); });
+  ChildProcess other([&](ChildProcess&) { work(); });
   work();
   EXPECT_EQ(other.Hear(), 0);
   EXPECT_EQ(Network.Model()->FindService("Watcher")->StartMs, 100 + 2 * Rounds);
 }
 
-}  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -7,12 +7,10 @@
 #include "lab/LabFixture.h"
 #include "support/Cases.h"
 
-namespace corvane {
-namespace {
+namespace corvane::test {
 
 using Names = std::vector<std::string>;
-using test::ErrorOf;
-using LabPortsTest = test::LabFixture;
+using LabPortsTest = LabFixture;
 
 // The names of an enumeration, each behind the status that it came with.
 template <class Call>
@@ -28,7 +26,7 @@ std::string All(Call call) {
 
 TEST_F(LabPortsTest, EnumerationsEndEachInItsWay) {
   LabNetX net(Network);
-  for (const auto& one : test::Cases("lab/Enumerations.txt"))
+  for (const auto& one : Cases("lab/Enumerations.txt"))
     EXPECT_EQ(one[2], All([&](std::string& name, int mode) {
                 if (one[0] == "trusts") return net.EnumTrustedDomains(one[1], name, mode);
                 if (one[0] == "accounts") return net.EnumAccounts(one[1], name, mode);
@@ -39,7 +37,7 @@ TEST_F(LabPortsTest, EnumerationsEndEachInItsWay) {
 
 TEST_F(LabPortsTest, RightsAreGrantedToKnownAccountsAndStayInTheFile) {
   LabNetX net(Network);
-  for (const auto& one : test::Cases("lab/Rights.txt"))
+  for (const auto& one : Cases("lab/Rights.txt"))
     EXPECT_EQ(net.GrantRight(one[0], one[1], one[2]), one[3] == "true") << one[2];
   EXPECT_TRUE(net.SetServiceAccount("TOOL", "Watcher", R"(NORTH\bob)", "right!")) << "it has no such service";
   EXPECT_TRUE(net.SetServiceAccount("DESK", "Locked", R"(NORTH\bob)", "right!"));
@@ -73,7 +71,7 @@ TEST_F(LabPortsTest, AccountsTellControllersFromMembers) {
 
 TEST_F(LabPortsTest, UnitsAreSearchedByPathAndScope) {
   LabUnitQuery query(Network);
-  for (const auto& one : test::Cases("lab/Units.txt")) {
+  for (const auto& one : Cases("lab/Units.txt")) {
     std::string told;
     Names found;
     const int error = ErrorOf([&] { found = query.Search(one[0]); }, &told);
@@ -88,7 +86,7 @@ TEST_F(LabPortsTest, UnitsAreSearchedByPathAndScope) {
 
 TEST_F(LabPortsTest, LogsTellTheirCountersOnceTheyAreOpen) {
   LabEventLogs logs(Network);
-  for (const auto& one : test::Cases("lab/Counters.txt")) {
+  for (const auto& one : Cases("lab/Counters.txt")) {
     const EventLogHandle handle = logs.Open(one[0], one[1]);
     std::uint32_t first = 0, count = 0;
     const bool isRead = logs.GetOldestRecord(handle, first) && logs.GetNumberOfRecords(handle, count);
@@ -131,5 +129,4 @@ TEST_F(LabPortsTest, AServiceIsPendingForItsTimeAndStaysInTheFile) {
   EXPECT_EQ(Network.Model()->FindService("Bridge")->StateAt(Clock), service::StopPending) << "no end is known of it";
 }
 
-}  // namespace
-}  // namespace corvane
+}  // namespace corvane::test
