@@ -6,15 +6,13 @@
 #include "support/ErrorOf.h"
 #include "support/TempFolder.h"
 
-namespace corvane {
-namespace {
+namespace corvane::test {
 
 namespace fs = std::filesystem;
-using test::ErrorOf;
 
 class FilesTest : public testing::Test {
  protected:
-  test::TempFolder Folder;
+  TempFolder Folder;
   HostPaths Paths{Folder.Path()};
   LinuxFiles Files{Paths};
 };
@@ -72,8 +70,8 @@ TEST_F(FilesTest, FailuresBearTheNumbersOfTheProduct) {
   EXPECT_EQ(ErrorOf([&] { Files.Write("/dev/full", "x"); }), errors::DiskFull);
   fs::permissions(Folder.Write("secret.txt", "x"), fs::perms::none);
   fs::permissions(Folder.Path(), fs::perms::owner_all | fs::perms::others_exec);
-  const test::ChildProcess other([&](test::ChildProcess& self) {
-    test::ChildProcess::BecomeNobody();
+  const ChildProcess other([&](ChildProcess& self) {
+    ChildProcess::BecomeNobody();
     self.Tell(ErrorOf([&] { Files.OpenForInput(R"(C:\Corvane\secret.txt)"); }));
     Files.Write(R"(C:\Corvane\secret.txt)", "y");
   });
@@ -81,5 +79,4 @@ TEST_F(FilesTest, FailuresBearTheNumbersOfTheProduct) {
   EXPECT_EQ(other.Hear(), errors::PermissionDenied);
 }
 
-}  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

@@ -13,21 +13,19 @@
 #include "support/ErrorOf.h"
 #include "support/TempFolder.h"
 
-namespace corvane {
-namespace {
+namespace corvane::test {
 
 namespace fs = std::filesystem;
 using Words = std::vector<std::string>;
-using test::ErrorOf;
 
 TEST(CommandLineTest, QuotesAndBackslashesFollowTheRulesOfWindows) {
-  for (const auto& one : test::Cases("linux/CommandLines.txt"))
+  for (const auto& one : Cases("linux/CommandLines.txt"))
     EXPECT_EQ(SplitCommandLine(one[0]), Words(one.begin() + 1, one.end())) << one[0];
 }
 
 class LauncherTest : public testing::Test {
  protected:
-  test::TempFolder Folder;
+  TempFolder Folder;
   LinuxLauncher Launcher;
 };
 
@@ -49,7 +47,7 @@ TEST_F(LauncherTest, ArgumentsArriveWholeAndUnread) {
 }
 
 TEST_F(LauncherTest, TheLockOfTheInstanceEndsWithItsProcessAndIsNotInherited) {
-  test::ChildProcess other([&](test::ChildProcess& self) {
+  ChildProcess other([&](ChildProcess& self) {
     LinuxSingleInstance own(Folder.Path());
     self.Tell(own.Acquire());
     Launcher.Run("sleep 2");
@@ -64,5 +62,4 @@ TEST_F(LauncherTest, TheLockOfTheInstanceEndsWithItsProcessAndIsNotInherited) {
   EXPECT_EQ(ErrorOf([&] { LinuxSingleInstance(Folder.Path() / "none").Acquire(); }), errors::PathNotFound);
 }
 
-}  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

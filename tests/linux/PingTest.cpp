@@ -9,23 +9,20 @@
 #include "support/ChildProcess.h"
 #include "support/ErrorOf.h"
 
-namespace corvane {
-namespace {
-
-using test::ErrorOf;
+namespace corvane::test {
 
 // Whether the machine lets this process send echo requests at all, asked without the adapter.
-bool MayPing(int family) {
+static bool MayPing(int family) {
   const int protocol = family == AF_INET6 ? static_cast<int>(IPPROTO_ICMPV6) : static_cast<int>(IPPROTO_ICMP);
   return Descriptor(::socket(family, SOCK_DGRAM, protocol)) || Descriptor(::socket(family, SOCK_RAW, protocol));
 }
 
-bool HasIpv6() {
+static bool HasIpv6() {
   std::ifstream addresses("/proc/net/if_inet6");
   return addresses.peek() != std::ifstream::traits_type::eof();
 }
 
-void ExpectReplyOrRefusal(int family, const std::string& host, const std::string& address) {
+static void ExpectReplyOrRefusal(int family, const std::string& host, const std::string& address) {
   std::string told;
   const int error = ErrorOf([&] { told = LinuxPing().Send(host).Address; }, &told);
   EXPECT_EQ(error, MayPing(family) ? 0 : errors::PermissionDenied) << told;
@@ -35,8 +32,8 @@ void ExpectReplyOrRefusal(int family, const std::string& host, const std::string
 TEST(LinuxPingTest, ThisMachineRepliesWhereThatIsAllowedAndElseIsToldSo) {
   ExpectReplyOrRefusal(AF_INET, R"(\\127.0.0.1)", "127.0.0.1");
   if (HasIpv6()) ExpectReplyOrRefusal(AF_INET6, "::1", "::1");
-  EXPECT_EQ(test::InChild([] {
-              test::ChildProcess::BecomeNobody();
+  EXPECT_EQ(InChild([] {
+              ChildProcess::BecomeNobody();
               ExpectReplyOrRefusal(AF_INET, "127.0.0.1", "127.0.0.1");
               return testing::Test::HasFailure();
             }),
@@ -66,5 +63,4 @@ TEST(EchoSocketTest, OnlyTheReplyThatWasAskedForCounts) {
   EXPECT_EQ(error, MayPing(AF_INET) ? 0 : errors::PermissionDenied);
 }
 
-}  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

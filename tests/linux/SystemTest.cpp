@@ -5,8 +5,7 @@
 
 #include "adapters/linux/LinuxSystem.h"
 
-namespace corvane {
-namespace {
+namespace corvane::test {
 
 TEST(LinuxSystemTest, TellsTheWallClockOfTheZoneInForceAndAFlatName) {
   LinuxSystem system;
@@ -21,5 +20,4 @@ TEST(LinuxSystemTest, TellsTheWallClockOfTheZoneInForceAndAFlatName) {
   EXPECT_EQ(name.find_first_of(".abcdefghijklmnopqrstuvwxyz"), name.npos);
 }
 
-}  // namespace
-}  // namespace corvane
+}  // namespace corvane::test
