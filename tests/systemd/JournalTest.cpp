@@ -11,8 +11,7 @@
 #include "support/ScriptedHost.h"
 #include "support/TempFolder.h"
 
-namespace corvane {
-namespace {
+namespace corvane::test {
 
 namespace fs = std::filesystem;
 using Fields = std::vector<std::pair<std::string, std::string>>;
@@ -59,7 +58,7 @@ class JournalTest : public testing::Test {
   }
   static long Lines(const std::string& text) { return std::count(text.begin(), text.end(), '\n'); }
 
-  test::TempFolder Folder;
+  TempFolder Folder;
   LinuxSystem Machine;
   std::string Computer = Machine.ComputerName().value_or("");
 };
@@ -128,11 +127,10 @@ TEST_F(JournalTest, TheInstallationNamesTheJournal) {
   Installation(CORVANE_SOURCE_DIR "/data").LayOut(folder, Installation::Kind::Lab);
   std::ofstream(folder / Installation::PlatformFile)
       << "[Events]\nSource=journal\nPath=" << Make("a.journal", {{{"MESSAGE", "m"}}}).string() << "\n";
-  test::ScriptedHost host;
+  ScriptedHost host;
   InstalledPlatform installed(folder, host);
   Computer = installed.Ports().System.ComputerName().value_or("");
   EXPECT_EQ(All(installed.Ports().EventReader), "|Information|Sun Oct 25 02:59:58 2026|m\n");
 }
 
-}  // namespace
-}  // namespace corvane
+}  // namespace corvane::test

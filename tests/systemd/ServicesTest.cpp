@@ -10,10 +10,9 @@
 #include "support/ScriptedHost.h"
 #include "systemd/PrivateBus.h"
 
-namespace corvane {
-namespace {
+namespace corvane::test {
 
-std::string UnitOf(const std::string& service) { return service.empty() ? "" : service + ".service"; }
+static std::string UnitOf(const std::string& service) { return service.empty() ? "" : service + ".service"; }
 
 class ServicesTest : public testing::Test {
  protected:
@@ -32,7 +31,7 @@ class ServicesTest : public testing::Test {
   }
   bool DoAnything(ServiceHandle opened) { return Services.Start(opened) || Stop(opened) || Enable(opened); }
 
-  test::PrivateBus Bus;
+  PrivateBus Bus;
   SystemdServiceManager Services{Bus.Address(), UnitOf, std::chrono::seconds(10)};
   ServiceHandle Manager = Services.OpenManager(service::Connect);
 };
@@ -86,7 +85,7 @@ TEST_F(ServicesTest, RefusalsAndABusThatIsGoneAreFailures) {
 }
 
 TEST_F(ServicesTest, WhoeverIsSilentOrNotThereHoldsNothingUp) {
-  const test::TempFolder folder;
+  const TempFolder folder;
   sockaddr_un address{AF_UNIX, {}};
   const std::string path = folder.Path() / "silent";
   path.copy(address.sun_path, sizeof address.sun_path - 1);
@@ -106,13 +105,13 @@ TEST_F(ServicesTest, WhoeverIsSilentOrNotThereHoldsNothingUp) {
 }
 
 TEST(ServicesChoiceTest, TheInstallationNamesTheBusAndTheUnits) {
-  const test::PrivateBus bus;
-  const test::TempFolder place;
+  const PrivateBus bus;
+  const TempFolder place;
   const std::filesystem::path folder = place.Path() / "installation";
   Installation(CORVANE_SOURCE_DIR "/data").LayOut(folder, Installation::Kind::Lab);
   std::ofstream(folder / Installation::PlatformFile)
       << "[Services]\nSource=systemd\nBus=" << bus.Address() << "\nCorvane Service=inactive.service\n";
-  test::ScriptedHost host;
+  ScriptedHost host;
   InstalledPlatform installed(folder, host);
   ServiceManager& services = installed.Ports().Services;
   EXPECT_EQ(CorvaneServiceState(services), 0);
@@ -122,5 +121,4 @@ TEST(ServicesChoiceTest, TheInstallationNamesTheBusAndTheUnits) {
   EXPECT_EQ(bus.Calls(), "StartUnit inactive.service replace\n");
 }
 
-}  // namespace
-}  // namespace corvane
+}  // namespace corvane::test
