@@ -6,7 +6,6 @@
 #include "support/ScriptedHost.h"
 
 namespace corvane::test {
-namespace {
 
 class Controls : public testing::Test {
  protected:
@@ -171,5 +170,4 @@ TEST_F(Controls, FormClosesAsItsCancelButtonDoes) {
   EXPECT_TRUE(form.IsUnloaded());
 }
 
-}  // namespace
 }  // namespace corvane::test

@@ -11,7 +11,6 @@
 #include "support/Cases.h"
 
 namespace corvane::test {
-namespace {
 
 /// The work's result as text, or the number of its error.
 template <class Work>
@@ -89,5 +88,4 @@ TEST(Values, AreReadAsTextNumberAndBoolean) {
   }
 }
 
-}  // namespace
 }  // namespace corvane::test
