@@ -4,6 +4,7 @@
 #include "core/console/frmControlService.h"
 #include "platform/Launcher.h"
 #include "platform/RuntimeError.h"
+#include "support/Cases.h"
 #include "support/ConsoleTest.h"
 #include "support/ReplacedPorts.h"
 #include "support/Switchboard.h"
@@ -125,24 +126,11 @@ TEST_F(CommandsTest, ServicesAreStartedAndStopped) {
       {"Corvane Service", "The Corvane Service", 1, &main.mnuOptionsStartService, &main.mnuOptionsStopService},
       {"CVSyslogBridge", "The Syslog Bridge Service", 2, &main.mnuOptionsStartService2, &main.mnuOptionsStopService2}};
   for (const auto& one : services) {
-    const struct {
-      const char *State, *Refuses;
-      ui::MenuItem* Item;
-      const char *Told, *Shown;
-    } steps[] = {{"stopped", "nothing", one.Stop, "AlreadyStopped", "stopped"},
-                 {"stopped", "nothing", one.Start, "Started", "running"},
-                 // On its way down a service still counts as running.
-                 {"stop pending", "nothing", one.Start, "AlreadyRunning", "running"},
-                 {"stop pending", "nothing", one.Stop, nullptr, "running"},
-                 {"running", "nothing", one.Stop, "Stopped", "stopped"},
-                 // A service that cannot be opened is not "already" anything, and a request that fails says nothing.
-                 {"running", "everything", one.Start, nullptr, "stopped"},
-                 {"running", "everything", one.Stop, nullptr, "stopped"}};
-    for (const auto& step : steps) {
-      SetService(one.Service, step.State, step.Refuses);
-      if (step.Told) OnMessage(step.Told, one.Name);
-      step.Item->Click();
-      EXPECT_EQ(std::string(one.Name).substr(4) + " " + step.Shown, Panel(one.Panel));
+    for (const auto& step : Cases("console/ServiceCommands.txt")) {
+      SetService(one.Service, step[0], step[1]);
+      if (!step[3].empty()) OnMessage(step[3], one.Name);
+      (step[2] == "start" ? one.Start : one.Stop)->Click();
+      EXPECT_EQ(std::string(one.Name).substr(4) + " " + step[4], Panel(one.Panel));
     }
   }
   EXPECT_EQ(ui::Pointer::Default, main.lvwComputers.MousePointer);
@@ -159,35 +147,26 @@ TEST_F(CommandsTest, TheOptionsMenuReadsTheStatesAnew) {
 }
 
 TEST_F(CommandsTest, TheServiceDialogOffersWhatCanBeDone) {
-  const struct {
-    std::string Action, Monitoring, Bridge, Refuses, Shown;
-    int Chosen;
-  } cases[] = {{"Start", "stopped", "running", "nothing", "stopped)+ running)-", 0},
-               {"Start", "running", "stopped", "nothing", "running)- stopped)+", 1},
-               {"Start", "running", "stop pending", "nothing", "running)- running)-", -1},
-               {"Stop", "stopped", "running", "nothing", "stopped)- running)+", 1},
-               {"Stop", "running", "stopped", "nothing", "running)+ stopped)-", 0},
-               // What cannot be opened counts as stopped.
-               {"Start", "stopped", "running", "everything", "stopped)+ stopped)+", 0}};
-  for (const auto& c : cases) {
-    SetService("Corvane Service", c.Monitoring);
-    SetService("CVSyslogBridge", c.Bridge, c.Refuses);
+  for (const auto& c : Cases("console/ServiceDialog.txt")) {
+    const bool starts = c[0] == "start";
+    const int chosen = std::stoi(c[5]);
+    SetService("Corvane Service", c[1]);
+    SetService("CVSyslogBridge", c[2], c[3]);
     Host.OnModal<frmControlService>("frmControlService", [&](frmControlService& form) {
       const auto shown = [](const ui::OptionButton& option) {
         return option.Caption.substr(option.Caption.rfind(' ') + 1) + (option.Enabled ? "+" : "-");
       };
-      EXPECT_EQ(c.Shown, shown(form.optControlService[0]) + " " + shown(form.optControlService[1]));
-      EXPECT_EQ(c.Chosen, ui::ChosenOption(form.optControlService));
-      EXPECT_EQ(c.Chosen >= 0, form.cmdAction.Enabled);
-      if (c.Chosen < 0) return form.CloseBox();
-      if (c.Refuses == "everything")
+      EXPECT_EQ(c[4], shown(form.optControlService[0]) + " " + shown(form.optControlService[1]));
+      EXPECT_EQ(chosen, ui::ChosenOption(form.optControlService));
+      EXPECT_EQ(chosen >= 0, form.cmdAction.Enabled);
+      if (chosen < 0) return form.CloseBox();
+      if (c[3] == "everything")
         Host.Choose(form.optControlService[1]);
       else
-        OnMessage(c.Action == "Start" ? "Started" : "Stopped",
-                  c.Chosen == 0 ? "The Corvane Service" : "The Syslog Bridge Service");
+        OnMessage(starts ? "Started" : "Stopped", chosen == 0 ? "The Corvane Service" : "The Syslog Bridge Service");
       Host.Click(form.cmdAction);
     });
-    Host.Press(Window().tbrMain, c.Action == "Start" ? "startservice" : "stopservice");
+    Host.Press(Window().tbrMain, c[0] + "service");
   }
 }
 

@@ -1,8 +1,8 @@
 #include "core/console/frmLogView.h"
 
-#include "app/installation/TextFile.h"
 #include "core/console/EventDate.h"
 #include "platform/EventReader.h"
+#include "support/Cases.h"
 #include "support/ConsoleTest.h"
 
 namespace corvane::test {
@@ -149,13 +149,7 @@ TEST_F(LogViewTest, TheShippedLogIsReadToItsBeginning) {
 }
 
 TEST(EventDateTest, ATimeIsReadInItsColumns) {
-  const std::pair<const char*, const char*> times[] = {{"Mon Nov 16 14:05:09 2026", "11/16/2026 14:05:09"},
-                                                       {"Sun Mar  1 04:05:09 2026", "3/1/2026 04:05:09"},
-                                                       {"Sat feb 29 24:00:00 2025\n", "3/2/2025 00:00:00"}};
-  for (const auto& [text, fixed] : times) EXPECT_EQ(FixDate(text), fixed) << text;
-  for (const char* text : {"", "Mon Nov 16 14:05:09 202", "Mon Nox 16 14:05:09 2026", "Mon anF 16 14:05:09 2026",
-                           "Mon Nov -6 14:05:09 2026", "Mon Nov    14:05:09 2026", "Mon Nov 16 14:0x:09 2026"})
-    EXPECT_EQ(FixDate(text), "") << text;
+  for (const auto& one : Cases("console/EventDates.txt")) EXPECT_EQ(one[1], FixDate(one[0])) << one[0];
 }
 
 }  // namespace

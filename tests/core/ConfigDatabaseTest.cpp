@@ -5,6 +5,7 @@
 #include "adapters/linux/HostPaths.h"
 #include "adapters/linux/LinuxFiles.h"
 #include "platform/RuntimeError.h"
+#include "support/Cases.h"
 #include "support/ConsoleTest.h"
 #include "support/ReplacedPorts.h"
 
@@ -83,22 +84,8 @@ class ConfigUpdate : public ConfigDatabase {
 };
 
 TEST_F(ConfigUpdate, IsAppliedWholeOrNotAtAll) {
-  const std::string other = "INSERT INTO LogTypes VALUES (7, 'Extra')";
-  const struct {
-    const char* Outcome;
-    std::vector<std::optional<std::string>> Files;
-  } cases[] = {
-      {"Newest\ngone kept",
-       {Class3, Class3 + "\r\n" + other + "\r\n", "INSERT INTO Nowhere VALUES (1)\r\n" + Class3,
-        "INSERT 789\r\n" + Class3}},
-      {"gone kept", {"", std::nullopt}},
-      // A foreign line takes everything back; so does the difference of a letter's case.
-      {"stays kept", {Class3 + "\r\nDELETE FROM OSTypes\r\n", Class3 + "\r\ninsert" + other.substr(6)}},
-      // A line below ten characters ends the work before its transaction is ended.
-      {"stays lost", {Class3 + "\r\nINSERT 78\r\n", Class3 + "\r\n\r\n", "\r\nDELETE FROM OSTypes\r\n"}},
-  };
-  for (const auto& c : cases)
-    for (const auto& file : c.Files) EXPECT_EQ(c.Outcome, Outcome(file)) << file.value_or("no file");
+  for (const auto& c : Cases("core/Updates.txt")) EXPECT_EQ(c[1], Outcome(c[0])) << c[0];
+  EXPECT_EQ("gone kept", Outcome(std::nullopt));
   EXPECT_EQ("Newest\nstays kept", Outcome(Class3, true, false)) << "a file that cannot be deleted";
 }
 

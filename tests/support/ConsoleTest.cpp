@@ -1,21 +1,18 @@
 #include "support/ConsoleTest.h"
 
-#include "app/installation/TextFile.h"
+#include <algorithm>
+
+#include "support/Cases.h"
 
 namespace corvane::test {
 
 std::string Message(const std::string& name, const std::string& with, ui::MsgIcon* icon) {
-  static const std::string messages = "\n" + ReadTextFile(CORVANE_SOURCE_DIR "/tests/support/Messages.txt");
-  const std::size_t line = messages.find("\n" + name + " ");
-  if (line == messages.npos) throw std::runtime_error("no message " + name);
-  const std::size_t sign = line + name.size() + 2;
-  if (icon) *icon = static_cast<ui::MsgIcon>(std::string("!i?").find(messages[sign]));
+  static const auto messages = Cases("support/Messages.txt");
+  const auto found = std::ranges::find(messages, name, [](const auto& message) { return message[0]; });
+  if (found == messages.end()) throw std::runtime_error("no message " + name);
+  if (icon) *icon = static_cast<ui::MsgIcon>(std::string("!i?").find((*found)[1]));
   std::string text;
-  for (std::size_t i = sign + 2; messages[i] != '\n'; ++i) {
-    const bool isBreak = messages.compare(i, 2, "\\n") == 0;
-    text += isBreak ? "\n" : messages[i] == '@' ? with : messages.substr(i, 1);
-    i += isBreak ? 1 : 0;
-  }
+  for (const char c : (*found)[2]) text += c == '@' ? with : std::string(1, c);
   return text;
 }
 
