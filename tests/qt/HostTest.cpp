@@ -9,11 +9,8 @@
 #include "platform/RuntimeError.h"
 
 namespace corvane::test {
-namespace {
 
-void Fail() { throw RuntimeError(errors::Overflow, "Overflow"); }
-
-}  // namespace
+static void Fail() { throw RuntimeError(errors::Overflow, "Overflow"); }
 
 TEST_F(HostTest, AModalFormEndsByClickEnterEscapeAndCloseBox) {
   std::optional<frmTest> modal;
@@ -85,6 +82,7 @@ TEST_F(HostTest, AssignmentFiresNothingAndShowsAfterTheHandler) {
 }
 
 TEST_F(HostTest, WhatTheUserDoesReachesTheControlBeforeItsHandler) {
+  frmTest editable(Host);
   std::string seen;
   for (const char* log : {"Application", "System"}) form.lstLog.AddItem(log);
   form.lstLog.SetListIndex(0);
@@ -99,19 +97,16 @@ TEST_F(HostTest, WhatTheUserDoesReachesTheControlBeforeItsHandler) {
   Serve();
   EXPECT_EQ("SERVER1", form.txtName.Text);
   EXPECT_EQ("System tab 1", seen);
-}
 
-TEST_F(HostTest, AnEditableBoxTakesWhatIsTyped) {
-  form.lstLog.Editable = true;
-  form.lstLog.AddItem("SERVER1");
-  std::string changes;
-  form.lstLog.Change = [&] { changes += form.lstLog.Text() + "/" + std::to_string(form.lstLog.ListIndex()) + " "; };
-  form.Show();
-  QTest::keyClicks(WidgetOf<QComboBox>(form.lstLog).lineEdit(), "S1");
-  EXPECT_EQ("S/-1 S1/-1 ", changes);
-  EXPECT_EQ("S1", WidgetOf<QComboBox>(form.lstLog).currentText());
-  Key(form.lstLog, Qt::Key_Return);
-  EXPECT_TRUE(form.IsUnloaded());
+  ui::ComboBox& box = editable.lstLog;
+  box.Editable = true;
+  box.Change = [&] { seen += " " + box.Text() + "/" + std::to_string(box.ListIndex()); };
+  editable.Show();
+  QTest::keyClicks(WidgetOf<QComboBox>(box).lineEdit(), "S1");
+  EXPECT_EQ("System tab 1 S/-1 S1/-1", seen);
+  EXPECT_EQ("S1", WidgetOf<QComboBox>(box).currentText());
+  Key(box, Qt::Key_Return);
+  EXPECT_TRUE(editable.IsUnloaded());
 }
 
 TEST_F(HostTest, ModalFormsNestAndGiveTheirOpenerBack) {

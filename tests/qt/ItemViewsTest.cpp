@@ -87,13 +87,14 @@ TEST_F(ItemViewsTest, HeadersSortInTheModelAndMarkTheClickedColumn) {
 TEST_F(ItemViewsTest, ADoubleClickAndTheRightButtonReachTheirHandlers) {
   Rows(3);
   std::string order;
-  form.lvwRows.DblClick = [&] { order += "double " + std::to_string(form.lvwRows.SelectedRow()) + " "; };
+  const auto note = [&](const char* what) { order += what + std::to_string(form.lvwRows.SelectedRow()) + " "; };
+  form.lvwRows.DblClick = [&] { note("double "); };
   form.lvwRows.MouseUp = [&](ui::MouseButton button) {
-    if (button == ui::MouseButton::Right) order += "right " + std::to_string(form.lvwRows.SelectedRow()) + " ";
+    if (button == ui::MouseButton::Right) note("right ");
   };
   form.Show();
-  QTest::mouseDClick(Window(form).windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                     MiddleOf(List(), List().model()->index(1, 0)));
+  const QPoint second = MiddleOf(List(), List().model()->index(1, 0));
+  QTest::mouseDClick(Window(form).windowHandle(), Qt::LeftButton, Qt::NoModifier, second);
   Serve();
   ClickRow(List(), 2, Qt::NoModifier, Qt::RightButton);
   EXPECT_EQ("double 1 right 2 ", order);

@@ -1,36 +1,35 @@
+#include <gtest/gtest.h>
+
 #include <QApplication>
 #include <QMessageBox>
 #include <QTimer>
+#include <fstream>
+#include <regex>
 
-#include <gtest/gtest.h>
 #include "adapters/qt/QtHost.h"
-#include "adapters/settings/RegistryFileStore.h"
 #include "app/assembly/InstalledPlatform.h"
 #include "app/assembly/RunConsole.h"
 #include "app/installation/Installation.h"
-#include "core/Settings.h"
-#include "core/console/Console.h"
+#include "app/installation/TextFile.h"
 #include "support/TempFolder.h"
 
 namespace corvane::test {
-namespace {
 
 // The whole program, as it is installed: real windows over a fresh installation.
 class ProgramTest : public ::testing::Test {
  protected:
   ProgramTest() { Installation(CORVANE_SOURCE_DIR "/data").LayOut(folder_, Installation::Kind::Lab); }
 
-  int Run() {
+  /// Runs the program and tries to act on it every 20 ms until that is done.
+  int Run(const std::function<bool()>& act) {
+    QTimer trying;
+    QObject::connect(&trying, &QTimer::timeout, [&] {
+      if (act()) trying.stop();
+    });
+    trying.start(20);
     qt::QtHost host(qt::FormRegistry::Console(), "");
     InstalledPlatform installed(folder_, host);
     return RunConsole(installed.Ports(), [&] { return host.Run(); });
-  }
-  /// Acts on the first window that answers, looking every 20 ms.
-  template <class Act>
-  static void Soon(Act act) {
-    QTimer::singleShot(20, [act] {
-      if (!act()) Soon(act);
-    });
   }
 
   TempFolder place_;
@@ -38,7 +37,7 @@ class ProgramTest : public ::testing::Test {
 };
 
 // The margins are fixed: the list takes what a larger window gives, and the box of domains keeps to the right edge.
-void GrowAndCheck(QWidget& window) {
+static void GrowAndCheck(QWidget& window) {
   const auto& list = *window.findChild<QWidget*>("lvwComputers");
   const auto& box = *window.findChild<QWidget*>("lstDomain");
   const auto right = [&] { return window.width() - box.mapTo(&window, box.rect().topRight()).x(); };
@@ -51,34 +50,27 @@ void GrowAndCheck(QWidget& window) {
 }
 
 TEST_F(ProgramTest, FollowsItsWindowAndEndsWhenThatIsClosed) {
-  Soon([] {
-    for (QWidget* window : QApplication::topLevelWidgets())
-      if (window->objectName() == "frmCVMain" && window->isVisible()) {
-        GrowAndCheck(*window);
-        window->close();
-        return true;
-      }
-    return false;
-  });
-  EXPECT_EQ(0, Run());
+  EXPECT_EQ(0, Run([] {
+              for (QWidget* window : QApplication::topLevelWidgets())
+                if (window->objectName() == "frmCVMain" && window->isVisible())
+                  return GrowAndCheck(*window), window->close();
+              return false;
+            }));
 }
 
 TEST_F(ProgramTest, ShowsAnErrorThatNothingCaughtOnceAndEndsWithOne) {
-  RegistryFileStore settings(folder_ / Installation::RegistryFile);
-  RegistryHandle key = 0;
-  ASSERT_EQ(0, settings.OpenKey(registry::LocalMachine, SettingsKey, registry::AllButLinks, key));
-  ASSERT_EQ(0, settings.DeleteValue(key, "RCAtStartup"));
+  const std::filesystem::path settings = folder_ / Installation::RegistryFile;
+  const std::string broken = std::regex_replace(ReadTextFile(settings), std::regex("\"RCAtStartup\".*\n"), "");
+  std::ofstream(settings) << broken;
   QString text;
-  Soon([&] {
-    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (box == nullptr) return false;
-    text += box->text();
-    box->accept();
-    return true;
-  });
-  EXPECT_EQ(1, Run());
+  EXPECT_EQ(1, Run([&] {
+              auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+              if (box == nullptr) return false;
+              text += box->text();
+              box->accept();
+              return true;
+            }));
   EXPECT_EQ("Run-time error '13':\n\nType mismatch", text);
 }
 
-}  // namespace
 }  // namespace corvane::test

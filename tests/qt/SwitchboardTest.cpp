@@ -9,7 +9,6 @@
 #include "StartedConsole.h"
 
 namespace corvane::test {
-namespace {
 
 class SwitchboardTest : public StartedConsole {
  protected:
@@ -98,5 +97,4 @@ TEST_F(SwitchboardTest, EveryClickOpensItsScreen) {
   }
 }
 
-}  // namespace
 }  // namespace corvane::test
