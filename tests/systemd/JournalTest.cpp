@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <stdio.h>
 #include <stdlib.h>
 
 #include <algorithm>
@@ -27,8 +26,6 @@ class JournalTest : public testing::Test {
   // may hold anything.
   fs::path Make(const std::string& name, const std::vector<Fields>& records) {
     const fs::path file = Folder.Path() / name;
-    FILE* pipe =
-        ::popen(("/lib/systemd/systemd-journal-remote -o " + file.string() + " - >/dev/null 2>&1").c_str(), "w");
     std::string bytes;
     for (std::size_t i = 0; i < records.size(); ++i) {
       bytes += "__REALTIME_TIMESTAMP=" + std::to_string(FirstSecond + static_cast<long>(i)) + "999999\n_TRANSPORT=x\n";
@@ -39,8 +36,9 @@ class JournalTest : public testing::Test {
       }
       bytes += "\n";
     }
-    EXPECT_EQ(::fwrite(bytes.data(), 1, bytes.size(), pipe), bytes.size());
-    EXPECT_EQ(::pclose(pipe), 0);
+    const std::string from = Folder.Write("export", bytes), remote = "/lib/systemd/systemd-journal-remote -o ";
+    EXPECT_EQ(std::system((remote + file.string() + " " + from + " >/dev/null 2>&1").c_str()), 0);
+    fs::remove(from);
     return file;
   }
   // All records, "source|type|time|description" in a line each; "closed" for a journal that does not open.
