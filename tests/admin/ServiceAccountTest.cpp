@@ -1,8 +1,8 @@
 #include "adapters/lab/LabNetX.h"
 #include "admin/frmServiceAccount.h"
-#include "app/installation/TextFile.h"
 #include "core/ServiceControl.h"
 #include "core/Settings.h"
+#include "support/Cases.h"
 #include "support/ConsoleTest.h"
 #include "support/ReplacedPorts.h"
 
@@ -64,56 +64,39 @@ TEST_F(ServiceAccount, IsChosenFromTheDomainOrFromThisComputer) {
 }
 
 TEST_F(ServiceAccount, IsSetInItsOrderAndEveryOutcomeIsTold) {
-  const std::string here = "CVCONSOLE1 SeServiceLogonRight; CVCONSOLE1 SeTcbPrivilege; ",
-                    there = "MERDC01 SeServiceLogonRight; MERDC01 SeTcbPrivilege; ",
-                    set = "CVCONSOLE1 Corvane Service; ", far = "MERIDIAN\\svc-corvane", own = "cvconsole1\\corvane";
-  const struct {
-    std::string Account, Password, Domain, Failing;
-    Names Told;
-    std::string Calls;
-  } cases[] = {
-      {"corvane", "lantern!", "MERIDIAN", "", {"NoName"}, ""},
-      {own, "lantern!", "MERIDIAN", "", {"LocalGranted"}, here + set},
-      {own, "lantern", "MERIDIAN", "ServiceLogon", {"LocalFailed", "NotStarted"}, here + set},
-      {own, "lantern!", "MERIDIAN", "Tcb", {"LocalFailed"}, here + set},
-      {own, "lantern!", "MERIDIAN", "Corvane", {"NotSet"}, here + set},
-      {far, "lantern!", "MERIDIAN", "", {"Question"}, here + set},
-      {far, "lantern!", "MERIDIAN", "CVCONSOLE1 Se", {"Question", "DomainGranted"}, here + there + set},
-      {far, "lantern!", "MERIDIAN", "MERDC01 SeServ", {"Question", "DomainFailed"}, here + there + set},
-      {far, "lantern!", "NOWHERE", "", {"Question", "DomainFailed"}, here + set},
-      {"HARBOR\\nobody", "lantern!", "MERIDIAN", "", {"Question", "NotSet"}, here + there + set},
-      {far, "lantern", "MERIDIAN", "", {"Question", "DomainGranted", "NotStarted"}, here + there + set},
-  };
   for (const char* takes : {"StartMs", "StopMs"}) Console.SetLab("Service Corvane Service", takes, "0");
   Main.DirectoryApi = Ports.CreateDirectoryApi();
-  for (const auto& c : cases) {
+  for (const auto& c : Cases("admin/Accounts.txt")) {
+    const std::string &account = c[0], &password = c[1];
+    std::istringstream messages(c[4]);
+    const Names told(std::istream_iterator<std::string>(messages), {});
     for (const char* setting : {"Created", "ServiceAccount"}) Main.SaveSetting(setting, "");
-    Main.SaveSetting("DefaultDomain", c.Domain);
+    Main.SaveSetting("DefaultDomain", c[2]);
     Console.SetLab("Service Corvane Service", "State", "running");
     Net.Calls.clear();
-    Net.Failing = c.Failing;
-    const bool isSet = c.Told.back() != "NoName" && c.Told.back() != "NotSet";
+    Net.Failing = c[3];
+    const bool isSet = told.back() != "NoName" && told.back() != "NotSet";
     OnForm([&](frmServiceAccount& form) {
-      form.lstAccountName.SetText(c.Account);
-      form.txtPassword.Text = c.Password;
+      form.lstAccountName.SetText(account);
+      form.txtPassword.Text = password;
       OnMessage("Mismatch");
       Host.Click(form.cmdOK);
       EXPECT_EQ(1, CorvaneServiceState(Ports.Services)) << "nothing is done yet";
-      form.txtPassword2.Text = c.Password;
-      for (const std::string& name : c.Told)
-        OnMessage(name, c.Account, c.Told.size() > 1 ? ui::MsgResult::Yes : ui::MsgResult::No);
+      form.txtPassword2.Text = password;
+      for (const std::string& name : told)
+        OnMessage(name, account, told.size() > 1 ? ui::MsgResult::Yes : ui::MsgResult::No);
       Host.Click(form.cmdOK);
-      EXPECT_EQ(isSet, form.IsUnloaded()) << c.Account;
+      EXPECT_EQ(isSet, form.IsUnloaded()) << account;
       for (int i = 0; i < 2 && !isSet; ++i) {
-        EXPECT_EQ(c.Password, form.txtPassword.Text);
+        EXPECT_EQ(password, form.txtPassword.Text);
         OnMessage("Needed", "", i == 0 ? ui::MsgResult::Cancel : ui::MsgResult::Ok);
         form.CloseBox();
       }
       EXPECT_EQ("", form.txtPassword.Text + form.txtPassword2.Text);
     });
-    EXPECT_EQ(c.Calls, Net.Calls) << c.Account;
-    EXPECT_EQ(isSet && c.Told.back() != "NotStarted", CorvaneServiceState(Ports.Services) == 1) << c.Account;
-    EXPECT_EQ(isSet ? c.Account + "1" : "", Main.Setting("ServiceAccount") + Main.Setting("Created"));
+    EXPECT_EQ(c[5], Net.Calls) << account;
+    EXPECT_EQ(isSet && told.back() != "NotStarted", CorvaneServiceState(Ports.Services) == 1) << account;
+    EXPECT_EQ(isSet ? account + "1" : "", Main.Setting("ServiceAccount") + Main.Setting("Created"));
   }
   OnForm([](frmServiceAccount& form) { form.CloseBox(); });
   EXPECT_EQ((std::vector<int>{280, 280, 280}), Host.HelpTopics);

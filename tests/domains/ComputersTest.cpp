@@ -3,6 +3,7 @@
 #include "domains/ToldNetX.h"
 #include "platform/DirectoryProvider.h"
 #include "platform/RuntimeError.h"
+#include "support/Cases.h"
 #include "support/ConsoleTest.h"
 #include "support/ReplacedPorts.h"
 
@@ -100,20 +101,11 @@ TEST_F(Computers, OfTheLabFillABoxAndTheFirstIsChosen) {
   modMain& main = Console.App.State();
   ui::Form form{Host, "frmTest"};
   ui::ComboBox box{form, "lstComputers"};
-  const struct {
-    const char *Source, *Domain, *First;
-    int Count;
-  } cases[] = {
-      // A computer that is off has an account, but stands in no browse list; a workgroup has no accounts.
-      {"0", "FIELDLAB", "BENCH1", 7}, {"1", "FIELDLAB", "CVCONSOLE1", 1}, {"0", "DEPOT", "DEPOTPDC", 7},
-      {"1", "DEPOT", "DEPOTPDC", 8},  {"2", "DEPOT", "MERWEB01", 3},
-  };
   main.SaveSetting("OUPath", "LDAP://OU=Web,OU=Servers,DC=meridian,DC=example");
-  for (const auto& c : cases) {
-    main.SaveSetting("ComputerEnum", c.Source);
-    FillComputerList(main, c.Domain, box);
-    EXPECT_EQ(c.First, box.Text());
-    EXPECT_EQ(c.Count, box.Count()) << c.Source << " " << c.Domain;
+  for (const auto& c : Cases("domains/Listings.txt")) {
+    main.SaveSetting("ComputerEnum", c[0]);
+    FillComputerList(main, c[1], box);
+    EXPECT_EQ(c[2] + " " + c[3], box.Text() + " " + std::to_string(box.Count())) << c[0] << c[1];
   }
 }
 

@@ -1,12 +1,13 @@
 #include "domains/DomainList.h"
 
+#include <iterator>
 #include <set>
 
-#include "app/installation/TextFile.h"
 #include "core/ConfigDatabase.h"
 #include "domains/CustomDomains.h"
 #include "domains/ToldNetX.h"
 #include "platform/RuntimeError.h"
+#include "support/Cases.h"
 #include "support/ConsoleTest.h"
 #include "support/ReplacedPorts.h"
 
@@ -20,11 +21,17 @@ class DomainList : public ConsoleTest {
   DomainList() { Console.SetLab("Lab", "TimeoutMs", "1"); }
 
   void UseDirectory() { Main.DirectoryApi = Console.Ports.CreateDirectoryApi(); }
-  const Names& Fill(modMain& main, const std::string& domain) {
+  /// The entries of a box, a blank behind each.
+  static std::string All(const ui::ComboBox& box) {
+    std::string all;
+    for (const std::string& entry : box.All()) all += entry + " ";
+    return all;
+  }
+  std::string Fill(modMain& main, const std::string& domain) {
     main.SaveSetting("DefaultDomain", domain);
     Box.AddItem("left over");
     FillDomainList(main, Box);
-    return Box.All();
+    return All(Box);
   }
 
   ui::Form Form{Host, "frmTest"};
@@ -32,21 +39,11 @@ class DomainList : public ConsoleTest {
 };
 
 TEST_F(DomainList, HoldsThePrimaryDomainAndThoseItTrusts) {
-  const struct {
-    const char* Default;
-    Names WithDirectory, OnVersion4;
-  } cases[] = {
-      {"MERIDIAN", {"MERIDIAN", "HARBOR", "DEPOT"}, {"MERIDIAN", "HARBOR", "DEPOT"}},
-      // The primary domain comes as its controller writes it; the other system only knows what was entered.
-      {"harbor", {"HARBOR", "MERIDIAN"}, {"harbor", "MERIDIAN"}},
-      // Without a controller the server's name is `\\` alone, which no computer answers to, this one included.
-      {"FIELDLAB", {"FIELDLAB"}, {"FIELDLAB"}},
-  };
-  for (const auto& c : cases) {
+  for (const auto& c : Cases("domains/Trusts.txt")) {
     Main.DirectoryApi.reset();
-    EXPECT_EQ(c.OnVersion4, Fill(Main, c.Default));
+    EXPECT_EQ(c[1], Fill(Main, c[0]));
     UseDirectory();
-    EXPECT_EQ(c.WithDirectory, Fill(Main, c.Default));
+    EXPECT_EQ(c[2], Fill(Main, c[0]));
     EXPECT_EQ(0, Box.ListIndex());
   }
 }
@@ -76,23 +73,15 @@ class ToldDirectory : public DirectoryApi {
 };
 
 TEST_F(DomainList, ChoosesTheDefaultDomainByItsExactTextElseTheFirst) {
-  const struct {
-    const char *Default, *Controller, *Server;
-    Names Trusts;
-    const char* Chosen;
-    Names List;
-  } cases[] = {{"BETA", "DC9", "\\\\DC9", {"beta", "BETA"}, "BETA", {"ALPHA", "beta", "BETA"}},
-               {"Beta", "\\\\DC9", "\\\\DC9", {"beta"}, "ALPHA", {"ALPHA", "beta"}},
-               {"GONE", "fail", "\\\\", {}, "ALPHA", {"ALPHA"}},
-               {"GAMMA", "DC9", "\\\\DC9", {"fail", "GAMMA"}, "GAMMA", {"ALPHA", "", "GAMMA"}}};
-  for (const auto& c : cases) {
+  for (const auto& c : Cases("domains/Defaults.txt")) {
     auto* told = new ToldDirectory;
     Main.DirectoryApi.reset(told);
-    told->Controller = c.Controller;
-    told->Trusts = c.Trusts;
-    EXPECT_EQ(c.List, Fill(Main, c.Default));
-    EXPECT_EQ(c.Chosen, Box.Text());
-    EXPECT_EQ(std::set<std::string>{c.Server}, told->Servers) << c.Default;
+    told->Controller = c[1];
+    std::istringstream trusts(c[2]);
+    told->Trusts.assign(std::istream_iterator<std::string>(trusts), {});
+    EXPECT_EQ(c[5], Fill(Main, c[0]));
+    EXPECT_EQ(c[4], Box.Text());
+    EXPECT_EQ(std::set<std::string>{c[3]}, told->Servers) << c[0];
   }
 }
 
@@ -113,12 +102,12 @@ TEST_F(DomainList, CutsEveryTrustOfAnOldController) {
   modMain main(ports);
   net.Servers = {{false, "PDC"}, {false, "PDC"}, {false, ""}};
   net.Trusts = {{true, "EAST#"}, {true, "WEST#"}, {false, "LAST#"}};
-  EXPECT_EQ((Names{"HOME", "EAST", "WEST", "LAST"}), Fill(main, "HOME"));
+  EXPECT_EQ("HOME EAST WEST LAST ", Fill(main, "HOME"));
   EXPECT_EQ("HOME 8 1; \\\\PDC 1; \\\\PDC 0; \\\\PDC 0; ", net.Asked);
   EXPECT_EQ(2, Host.EventsServed);
   net.Trusts = {{true, "EAST#"}, {false, ""}, {true, "NOT ASKED#"}};
-  EXPECT_EQ((Names{"HOME", "EAST"}), Fill(main, "HOME"));
-  EXPECT_EQ(Names{"HOME"}, Fill(main, "HOME"));
+  EXPECT_EQ("HOME EAST ", Fill(main, "HOME"));
+  EXPECT_EQ("HOME ", Fill(main, "HOME"));
 }
 
 TEST_F(DomainList, EndsWithTheDomainsOfTheDatabaseInCapitals) {
@@ -145,7 +134,7 @@ TEST_F(DomainList, ItsCustomDomainsAreThoseOfTheFile) {
   const auto computersOf = [&](const std::string& domain) {
     ui::ComboBox box{Form, "lstComputers"};
     LoadCustomDomainComputers(Main, domain, box);
-    return box.All();
+    return All(box);
   };
   WriteTextFile(file, mappings);
   for (const char* entry : {"CUSTOM: OLD", "MERIDIAN", "x CUSTOM:", "CUSTOM: BRANCH", "custom: kept"})
@@ -158,15 +147,10 @@ TEST_F(DomainList, ItsCustomDomainsAreThoseOfTheFile) {
     EXPECT_EQ((Names{"MERIDIAN", "custom: kept", "CUSTOM: BRANCH", "CUSTOM: OTHER", "CUSTOM: SÜD"}), Box.All());
   }
   EXPECT_EQ("MERIDIAN", Box.Text());
-  const std::pair<const char*, Names> domains[] = {{"CUSTOM: BRANCH", {"SERVER1", "SERVER2", "10.0.0.1"}},
-                                                   {"branch", {"SERVER1", "SERVER2", "10.0.0.1"}},
-                                                   {"CUSTOM: OTHER", {"SERVER5"}},
-                                                   {"CUSTOM: SÜD", {"BÜRO"}},
-                                                   {"CUSTOM: STALE", {}}};
-  for (const auto& [domain, computers] : domains) EXPECT_EQ(computers, computersOf(domain)) << domain;
+  for (const auto& c : Cases("domains/CustomDomains.txt")) EXPECT_EQ(c[1], computersOf(c[0])) << c[0];
   EXPECT_EQ(mappings, ReadTextFile(file));
   // A garbled count ends with the file, not after hours.
-  const std::pair<const char*, Names> counts[] = {{"-1", {}}, {"none", {}}, {"0", {}}, {"2000000000", {"A"}}};
+  const std::pair<const char*, const char*> counts[] = {{"-1", ""}, {"none", ""}, {"0", ""}, {"2000000000", "A "}};
   for (const auto& [count, computers] : counts) {
     WriteTextFile(file,
                   std::string("[General]\r\nNumComputers=") + count + "\r\n[Computers]\r\nComputer1=A|BRANCH\r\n");

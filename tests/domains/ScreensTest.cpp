@@ -5,6 +5,7 @@
 #include "domains/frmComputerEnum.h"
 #include "domains/frmCustomDomainManager.h"
 #include "domains/frmDomainChooser.h"
+#include "support/Cases.h"
 #include "support/ChildProcess.h"
 #include "support/ConsoleTest.h"
 
@@ -42,37 +43,23 @@ class DomainScreens : public ConsoleTest {
 };
 
 TEST_F(DomainScreens, ADefaultDomainIsSavedByItsFlatNameInCapitals) {
-  const std::string workgroup = "NetBIOS (e.g. MYWORKGROUP) formatted name of your primary workgroup";
-  const std::string flat = "NetBIOS (e.g. MYDOMAIN) formatted name of your primary domain";
-  const std::string dns = "DNS (e.g. mydomain.example) or " + flat;
-  const struct {
-    int Version, Managing;
-    std::string Stored, Shown, Help;
-    const char *Typed, *Box;
-    MsgResult Answer;
-    std::string Saved;
-  } cases[] = {{6, 1, "", "MERIDIAN", dns, "", "NoDomain", MsgResult::Ok, ""},
-               {4, 1, "", "", flat, "Mispelt", nullptr, MsgResult::Ok, "MISPELT"},
-               {5, 1, "DEPOT", "DEPOT", dns, "harbor.Example", nullptr, MsgResult::Ok, "HARBOR"},
-               {6, 2, "", "", workgroup, "harbor.example", nullptr, MsgResult::Ok, "HARBOR"},
-               {6, 0, "SHED", "SHED", workgroup, "a.b", "NotLocated", MsgResult::Ok, "SHED"},
-               {4, 1, "DEPOT", "DEPOT", flat, "a.b", "Dotted", MsgResult::Yes, "A.B"},
-               {4, 0, "SHED", "SHED", workgroup, "a.b", "Dotted", MsgResult::No, "SHED"}};
-  for (const auto& c : cases) {
-    Prepare(c.Version, c.Stored);
-    Main.Registry.SetKeyValue(SettingsKey, "ManagingADomain", c.Managing, registry::Number);
+  for (const auto& c : Cases("domains/DefaultDomains.txt")) {
+    const std::string &stored = c[2], &saved = c[8];
+    Prepare(std::stoi(c[0]), stored);
+    Main.Registry.SetKeyValue(SettingsKey, "ManagingADomain", std::stoi(c[1]), registry::Number);
     frmDomainChooser form(Main);
     form.Load();
-    EXPECT_EQ(c.Shown + "Enter the " + c.Help + ", and press 'OK.'  Press 'F1' for additional help.",
+    EXPECT_EQ(c[3] + "Enter the " + c[4] + ", and press 'OK.'  Press 'F1' for additional help.",
               form.txtStartupDomain.Text + form.lblInstructions.Caption);
     // The name is looked up by a directory of its own.
     Main.DirectoryApi.reset();
-    form.txtStartupDomain.Text = c.Typed;
-    if (c.Box) OnMessage(c.Box, "", c.Answer);
+    form.txtStartupDomain.Text = c[5];
+    const MsgResult answer = c[7] == "yes" ? MsgResult::Yes : c[7] == "no" ? MsgResult::No : MsgResult::Ok;
+    if (!c[6].empty()) OnMessage(c[6], "", answer);
     Host.Click(form.cmdOK);
-    EXPECT_EQ(c.Saved, Main.Setting("DefaultDomain"));
-    EXPECT_EQ(c.Saved != c.Stored, form.IsUnloaded());
-    EXPECT_EQ(c.Managing == 1, Main.SettingNumber("ManagingADomain") == 1);
+    EXPECT_EQ(saved, Main.Setting("DefaultDomain"));
+    EXPECT_EQ(saved != stored, form.IsUnloaded());
+    EXPECT_EQ(c[1] == "1", Main.SettingNumber("ManagingADomain") == 1);
   }
 }
 
@@ -98,27 +85,17 @@ TEST_F(DomainScreens, AUnitThatWasChosenGivesItsComputers) {
   std::string computers;
   ForEachComputer(Main, "MERIDIAN", true, [&](const std::string& name) { computers += " " + name; });
   EXPECT_EQ("2 MERWEB01 MERWEB02 MERWEB03", Main.Setting("ComputerEnum") + computers);
-  const struct {
-    int Version;
-    const char *Domain, *Source, *Box;
-    int Chosen;
-  } cases[] = {{6, "", "2", "UnitWithoutDomain", 2},
-               {5, "FIELDLAB", "2", "NoDirectoryServer", 2},
-               {6, "MERIDIAN", "2", "UnitNotSelected", 2},
-               {6, "", "7", nullptr, 0},
-               {4, "MERIDIAN", "2", nullptr, 0}};
   Host.OnChooseContainer([](const auto&, const auto&) { return std::nullopt; });
-  for (const auto& c : cases) {
-    Prepare(c.Version, c.Domain);
-    Main.SaveSetting("ComputerEnum", c.Source);
+  for (const auto& c : Cases("domains/Retrievals.txt")) {
+    Prepare(std::stoi(c[0]), c[1]);
+    Main.SaveSetting("ComputerEnum", c[2]);
     frmComputerEnum again(Main);
     again.Load();
-    EXPECT_EQ(c.Chosen, ui::ChosenOption(again.optRetrieve));
-    EXPECT_EQ(c.Version >= 5, again.optRetrieve[2].Enabled);
-    EXPECT_EQ(c.Chosen == 2, again.txtOU.Enabled && again.cmdBrowse.Enabled);
-    if (c.Box) OnMessage(c.Box, c.Domain), Host.Click(again.cmdBrowse);
-    const bool cancelled = c.Box && *c.Domain == 'M';
-    EXPECT_EQ(*c.Source == '2' && !cancelled ? "Web" : "", again.txtOU.Text);
+    EXPECT_EQ(c[4], std::to_string(ui::ChosenOption(again.optRetrieve)));
+    EXPECT_EQ(c[0] != "4", again.optRetrieve[2].Enabled);
+    EXPECT_EQ(c[4] == "2", again.txtOU.Enabled && again.cmdBrowse.Enabled);
+    if (!c[3].empty()) OnMessage(c[3], c[1]), Host.Click(again.cmdBrowse);
+    EXPECT_EQ(c[5], again.txtOU.Text);
   }
 }
 

@@ -1,4 +1,5 @@
 #include "logs/LogEditFixture.h"
+#include "support/Cases.h"
 
 namespace corvane::test {
 namespace {
@@ -42,15 +43,11 @@ TEST_F(LogEditTest, ACustomDomainListsItsMappingsAlone) {
 }
 
 TEST_F(LogEditTest, HintsFollowTheTabs) {
-  const std::vector<std::string> hints{
-      "Select the computer and event log type you wish to monitor.",
-      "Select events you wish to ignore by dragging alarms or alarm bundles to the left.",
-      "Select the events that will trigger notifications by dragging alarms or alarm bundles to the left.",
-      "Select notifications that will be performed when alarms are detected by dragging notifications to the left."};
+  const auto hints = Cases("logs/Hints.txt");
   Add([&](frmLogEdit& form) {
     for (int tab = 3; tab >= 0; --tab) {
       Host.BringToFront(form.tabMain, tab);
-      EXPECT_EQ(hints[static_cast<std::size_t>(tab)], form.lblInfo.Caption);
+      EXPECT_EQ(hints[static_cast<std::size_t>(tab)][0], form.lblInfo.Caption);
     }
   });
 }

@@ -3,6 +3,7 @@
 #include "logs/LogInspection.h"
 #include "platform/EventLogs.h"
 #include "platform/RuntimeError.h"
+#include "support/Cases.h"
 #include "support/ReplacedPorts.h"
 
 namespace corvane::test {
@@ -44,14 +45,10 @@ class CountersTest : public LogEditTest {
 
 // The same log tells other numbers as a classic log than as a channel; the service reads the rows as they are.
 TEST_F(CountersTest, ClassicLogsAndChannelsCountDifferently) {
-  const char* const cases[][3] = {{"oldest 0, count 0", "0 1", "0 1"},
-                                  {"oldest 1, count 50", "50 1", "50 1"},
-                                  {"oldest 100, count 50", "50 149", "149 100"},
-                                  {"oldest 2147483600, count 47", "47 2147483646", "2147483646 2147483600"}};
-  for (const auto& [log, classic, channel] : cases) {
-    for (const char* computer : {"MERFILE01", "MERDC01"}) SetLog(computer, log);
-    EXPECT_EQ(classic, Read("MERFILE01")) << log;
-    EXPECT_EQ(channel, Read("\\\\MERDC01")) << log;
+  for (const auto& c : Cases("logs/Counters.txt")) {
+    for (const char* computer : {"MERFILE01", "MERDC01"}) SetLog(computer, c[0]);
+    EXPECT_EQ(c[1], Read("MERFILE01")) << c[0];
+    EXPECT_EQ(c[2], Read("\\\\MERDC01")) << c[0];
   }
   // The sum itself must fit, before one is taken from it.
   for (const char* computer : {"MERFILE01", "MERDC01"}) {
@@ -98,19 +95,9 @@ class PaneTest : public LogEditTest {
 };
 
 TEST_F(PaneTest, TellsPingSystemAndRecords) {
-  const auto inspect = [&](const char* computer) {
+  const auto inspect = [&](const std::string& computer) {
     return LinesOf([&](ui::ListBox& lines) { InspectComputerAndLog(Main, computer, "System", lines); });
   };
-  Console.SetLab("Computer MERFILE01", "Log System", "oldest 3, count 1234");
-  const std::string reply = "Ping reply from 192.0.2.14, Response Time=0ms\n", lost = "Request timeout\n";
-  EXPECT_EQ("Pinging MERFILE01 3 times with 64 bytes of data...\n" + reply + reply + reply + std::string(100, '-') +
-                "\nMERFILE01 is running Microsoft Windows Server 2003\n"
-                "The System log on MERFILE01 contains 1234 records.\n",
-            inspect("MERFILE01"));
-  EXPECT_EQ("Pinging MERBACKUP 3 times with 64 bytes of data...\n" + lost + lost + lost +
-                "MERBACKUP did not respond to 3 ping attempts.  The computer may be offline, or ICMP may be "
-                "disabled/blocked.\n",
-            inspect("MERBACKUP"));
   const std::string unknown = inspect("NOSUCHPC"), refused = inspect("HBRFILE2");
   EXPECT_NE(std::string::npos, unknown.find("Error during ping attempt: ")) << unknown;
   EXPECT_EQ(2, std::count(unknown.begin(), unknown.end(), '\n') - 1) << unknown;
@@ -118,29 +105,17 @@ TEST_F(PaneTest, TellsPingSystemAndRecords) {
       refused.ends_with("The operating system running on HBRFILE2 could not be determined.\n"
                         "The number of entries in the System log on HBRFILE2 could not be determined.\n"))
       << refused;
-  Main.Registry.SetKeyValue("Software\\Tarnwick\\Corvane", "PingTest", 0, registry::Number);
-  EXPECT_EQ("ICMP Echo (Ping) testing is disabled.  Therefore, no computer and log information will be displayed.\n",
-            inspect("MERFILE01"));
+  Console.SetLab("Computer MERFILE01", "Log System", "oldest 3, count 1234");
+  for (const auto& c : Cases("logs/Panes.txt")) {
+    Main.Registry.SetKeyValue("Software\\Tarnwick\\Corvane", "PingTest", std::stoi(c[0]), registry::Number);
+    EXPECT_EQ(c[2], inspect(c[1]));
+  }
 }
 
 TEST_F(PaneTest, ShowsStatisticsAsTheServiceLeftThem) {
-  const char* const cases[][5] = {
-      {"11_16_2026_14_5_9", "1_2_2026_0_0_0", "500", "0", "11/16/2026 2:05:09 PM|1/2/2026|500|500.00"},
-      {"", "1_2_2026_0_30_0", "1", "3", "|1/2/2026 12:30:00 AM|1|.33"},
-      {"1_2", "x", "many", "", "||0|.00"}};
-  const auto statistics = [&](const char* lastCheck, const char* lastScan, const char* events, const char* time) {
-    SetStatistics("PC2", {{"LastCheck", lastCheck}, {"LastScan", lastScan}, {"NumEvents", events}, {"ScanTime", time}});
-    return LinesOf([&](ui::ListBox& lines) { LoadStatistics(Main, "PC2", lines); });
-  };
-  EXPECT_EQ("No statistics found for this log.\n", statistics("", "", "500", "2"));
-  for (const auto& [lastCheck, lastScan, events, time, shown] : cases) {
-    std::string expected =
-        "The last check of this log occurred at: @\n"
-        "The last scan of new entries in this log occurred at: @\n"
-        "@ event log entries were examined during the last scan.\nScanning speed: @ events scanned per second.\n";
-    std::istringstream parts(shown);
-    for (std::string part; std::getline(parts, part, '|');) expected.replace(expected.find('@'), 1, part);
-    EXPECT_EQ(expected, statistics(lastCheck, lastScan, events, time));
+  for (const auto& c : Cases("logs/Statistics.txt")) {
+    SetStatistics("PC2", {{"LastCheck", c[0]}, {"LastScan", c[1]}, {"NumEvents", c[2]}, {"ScanTime", c[3]}});
+    EXPECT_EQ(c[4], LinesOf([&](ui::ListBox& lines) { LoadStatistics(Main, "PC2", lines); }));
   }
 }
 
