@@ -1,7 +1,5 @@
 #include "support/RecordingData.h"
 
-#include "platform/RuntimeError.h"
-
 namespace corvane::test {
 namespace {
 
@@ -64,23 +62,5 @@ class RecordingRecordset : public Recordset {
 std::unique_ptr<Connection> RecordingData::NewConnection() { return std::make_unique<RecordingConnection>(*this); }
 
 std::unique_ptr<Recordset> RecordingData::NewRecordset() { return std::make_unique<RecordingRecordset>(*this); }
-
-std::vector<std::string> RecordingData::Changes() const {
-  std::vector<std::string> changes;
-  for (const std::string& sql : Statements)
-    if (!sql.starts_with("SELECT")) changes.push_back(sql);
-  return changes;
-}
-
-void RecordingData::FailAfter(int count, std::string holding) {
-  Fails = [count, holding = std::move(holding)](const std::string& sql) mutable {
-    return sql.find(holding) != std::string::npos && count-- == 0;
-  };
-}
-
-void RecordingData::Meet(const std::string& sql) {
-  Statements.push_back(sql);
-  if (Fails && Fails(sql)) throw RuntimeError(errors::DataLocked, "The row is locked");
-}
 
 }  // namespace corvane::test
