@@ -26,7 +26,7 @@ void StartTheService(Script& script) {
 void MapComputers(Script& script) {
   script.On(Main, [] { Driver::ClickTool(Main, "customdomains"); });
   for (const auto& [computer, domain] : {std::pair("kiosk 1", "lobby"), std::pair("192.0.2.77", "branch")})
-    script.On(Manager, [=] {
+    script.On(Manager, [computer = computer, domain = domain] {
       Driver::Type(Driver::Find<QLineEdit>(Manager, "txtComputer"), computer);
       Driver::Type(Driver::Find<QLineEdit>(Manager, "txtDomain"), domain);
       Driver::Click(Manager, "cmdAdd");
