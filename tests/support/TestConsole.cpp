@@ -15,7 +15,7 @@ namespace {
 // Laying out an installation takes its time; each kind is made once and copied for every test. The lab's computers take
 // their time as well; tests do not wait for them.
 std::unique_ptr<InstalledPlatform> Install(Installation::Kind kind, const std::filesystem::path& folder,
-                                           ui::UiHost& host) {
+                                           const std::string& platform, ui::UiHost& host) {
   static const TempFolder place;
   static std::map<Installation::Kind, std::filesystem::path> made;
   if (!made.contains(kind)) {
@@ -27,13 +27,14 @@ std::unique_ptr<InstalledPlatform> Install(Installation::Kind kind, const std::f
     std::ofstream(lab) << text;
   }
   std::filesystem::copy(made[kind], folder, std::filesystem::copy_options::recursive);
+  if (!platform.empty()) std::ofstream(folder / Installation::PlatformFile) << platform;
   return std::make_unique<InstalledPlatform>(folder, host);
 }
 
 }  // namespace
 
-TestConsole::TestConsole(Installation::Kind kind)
-    : installed_(Install(kind, Folder(), Host)),
+TestConsole::TestConsole(Installation::Kind kind, const std::string& platform)
+    : installed_(Install(kind, Folder(), platform, Host)),
       System(installed_->Ports().System),
       Data(installed_->Ports().Data),
       Ports(Replace(installed_->Ports(), {.System = &System, .Data = &Data})),

@@ -37,7 +37,8 @@ class TestSystem : public System {
 /// the clock and the witness of its statements.
 class TestConsole {
  public:
-  explicit TestConsole(Installation::Kind kind = Installation::Kind::Lab);
+  /// A text in `platform` stands in the place of the installation's own choice of ports.
+  explicit TestConsole(Installation::Kind kind = Installation::Kind::Lab, const std::string& platform = "");
 
   /// Runs the whole start.
   void Start() { App.Main(); }

@@ -5,11 +5,8 @@
 
 #include "adapters/linux/JournalEventReader.h"
 #include "adapters/linux/LinuxSystem.h"
-#include "app/assembly/InstalledPlatform.h"
-#include "app/installation/Installation.h"
 #include "support/Cases.h"
-#include "support/ScriptedHost.h"
-#include "support/TempFolder.h"
+#include "support/TestConsole.h"
 
 namespace corvane::test {
 
@@ -113,14 +110,10 @@ TEST_F(JournalTest, WhatIsNoJournalOrADamagedOneDoesNotOpenOrEndsEarly) {
 }
 
 TEST_F(JournalTest, TheInstallationNamesTheJournal) {
-  const fs::path folder = Folder.Path() / "installation";
-  Installation(CORVANE_SOURCE_DIR "/data").LayOut(folder, Installation::Kind::Lab);
-  std::ofstream(folder / Installation::PlatformFile)
-      << "[Events]\nSource=journal\nPath=" << Make("a.journal", {{{"MESSAGE", "m"}}}).string() << "\n";
-  ScriptedHost host;
-  InstalledPlatform installed(folder, host);
-  Computer = installed.Ports().System.ComputerName().value_or("");
-  EXPECT_EQ(All(installed.Ports().EventReader), "|Information|Sun Oct 25 02:59:58 2026|m\n");
+  const fs::path journal = Make("a.journal", {{{"MESSAGE", "m"}}});
+  const TestConsole console(Installation::Kind::Lab, "[Events]\nSource=journal\nPath=" + journal.string() + "\n");
+  Computer = console.Ports.System.ComputerName().value_or("");
+  EXPECT_EQ(All(console.Ports.EventReader), "|Information|Sun Oct 25 02:59:58 2026|m\n");
 }
 
 }  // namespace corvane::test

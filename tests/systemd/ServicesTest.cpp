@@ -4,10 +4,8 @@
 
 #include "adapters/linux/Descriptor.h"
 #include "adapters/linux/SystemdServiceManager.h"
-#include "app/assembly/InstalledPlatform.h"
-#include "app/installation/Installation.h"
 #include "core/ServiceControl.h"
-#include "support/ScriptedHost.h"
+#include "support/TestConsole.h"
 #include "systemd/PrivateBus.h"
 
 namespace corvane::test {
@@ -106,14 +104,9 @@ TEST_F(ServicesTest, WhoeverIsSilentOrNotThereHoldsNothingUp) {
 
 TEST(ServicesChoiceTest, TheInstallationNamesTheBusAndTheUnits) {
   const PrivateBus bus;
-  const TempFolder place;
-  const std::filesystem::path folder = place.Path() / "installation";
-  Installation(CORVANE_SOURCE_DIR "/data").LayOut(folder, Installation::Kind::Lab);
-  std::ofstream(folder / Installation::PlatformFile)
-      << "[Services]\nSource=systemd\nBus=" << bus.Address() << "\nCorvane Service=inactive.service\n";
-  ScriptedHost host;
-  InstalledPlatform installed(folder, host);
-  ServiceManager& services = installed.Ports().Services;
+  const std::string choice = "[Services]\nSource=systemd\nBus=" + bus.Address();
+  const TestConsole console(Installation::Kind::Lab, choice + "\nCorvane Service=inactive.service\n");
+  ServiceManager& services = console.Ports.Services;
   EXPECT_EQ(CorvaneServiceState(services), 0);
   EXPECT_EQ(StartCorvaneServiceNow(services), 1);
   EXPECT_EQ(CorvaneServiceState(services), 1);
