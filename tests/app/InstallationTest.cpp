@@ -7,10 +7,8 @@
 #include <sstream>
 
 #include "adapters/lab/LabNetwork.h"
-#include "adapters/linux/HostPaths.h"
 #include "adapters/linux/LinuxSystem.h"
 #include "adapters/settings/RegistryFileStore.h"
-#include "adapters/sqlite/SqliteProvider.h"
 #include "app/installation/CatalogueFile.h"
 #include "app/installation/InstallationError.h"
 #include "app/installation/InstallerCommand.h"
@@ -21,7 +19,7 @@
 #include "core/TimeStamp.h"
 #include "platform/Conversions.h"
 #include "support/Cases.h"
-#include "support/TempFolder.h"
+#include "support/TestStore.h"
 
 namespace corvane::test {
 
@@ -136,28 +134,24 @@ TEST_F(InstallationTest, TheDatabaseHoldsTheCatalogue) {
   ASSERT_EQ(LayOut(folder_, Installation::Kind::FirstRun), "");
   std::ifstream text(shipped / "catalogue.txt");
   const Catalogue catalogue = CatalogueFile("catalogue.txt").Read(text);
-  SqliteProvider provider{HostPaths(folder_)};
-  const auto connection = provider.NewConnection();
-  connection->Open(R"(Provider=Microsoft.Jet.OLEDB.3.51;Data Source=C:\Corvane\corvane.db;)");
   const auto count = [&](const std::string& source) {
-    return static_cast<std::size_t>(
-        ToNumber(connection->Execute("SELECT COUNT(*) AS Found FROM " + source)->Field("Found")));
+    return std::stoul(Ask(folder_ / Installation::DatabaseFile, "SELECT COUNT(*) FROM " + source));
   };
   const std::pair<const char*, std::size_t> rows[] = {
       {"OSTypes", 3},
       {"LogTypes", 6},
       {"AlarmCategories", catalogue.Categories.size()},
-      {"Alarms, AlarmCategories WHERE AlarmCategories.Index = Alarms.AlarmCategory", catalogue.Alarms.size()},
+      {"Alarms, AlarmCategories WHERE AlarmCategories.[Index] = Alarms.AlarmCategory", catalogue.Alarms.size()},
       {"Alarms WHERE Name = 'All Errors' AND Source IS NULL AND EventID = -1 AND TypeMask = 4", 3},
       {"Alarms WHERE Name = 'All Warnings' AND Source IS NULL AND EventID = -1 AND TypeMask = 2", 3},
       {"Notifications", 3},
       {"Notifications WHERE SyslogServer IS NOT NULL AND TypesSupported = 16 AND EmailRecipient IS NULL", 1}};
   for (const auto& [source, expected] : rows) EXPECT_EQ(count(source), expected) << source;
   for (const auto& bundle : catalogue.Bundles)
-    EXPECT_EQ(
-        count("AlarmsInGroups, Alarms, AlarmGroups WHERE AlarmGroups.Name = '" + bundle.Name +
-              "' AND AlarmsInGroups.AlarmGroupID = AlarmGroups.Index AND Alarms.AlarmID = AlarmsInGroups.AlarmID"),
-        bundle.Members.size());
+    EXPECT_EQ(count("AlarmsInGroups NATURAL JOIN Alarms JOIN AlarmGroups ON AlarmGroupID = AlarmGroups.[Index] "
+                    "WHERE AlarmGroups.Name = '" +
+                    bundle.Name + "'"),
+              bundle.Members.size());
 }
 
 TEST_F(InstallationTest, AFailureLeavesNothingBehind) {
