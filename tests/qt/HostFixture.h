@@ -28,6 +28,11 @@ class HostTest : public ::testing::Test {
   }
   static void Await(QWidget& window) { EXPECT_TRUE(QTest::qWaitForWindowActive(&window)); }
   void Click(const ui::Control& button) { ClickAt(WidgetOf(button), MiddleOf(WidgetOf(button))); }
+  /// Does this in a handler of the form.
+  void InHandler(std::function<void()> act) {
+    form.cmdOK.Click = std::move(act);
+    Click(form.cmdOK);
+  }
   /// A key that the window gets, or the control with the focus.
   void Key(const ui::Form& shown, Qt::Key key) { QTest::keyClick(&Window(shown), key); }
   void Key(const ui::Control& control, Qt::Key key) {

@@ -53,7 +53,9 @@ TEST_F(HostTest, AssignmentFiresNothingAndShowsAfterTheHandler) {
   form.lstLog.Click = form.tabMain.Click = form.txtName.GotFocus = [&] { ++fired; };
   form.lvwRows.ItemClick = [&](int) { ++fired; };
   form.tvTree.NodeClick = form.tvTree.Expand = [&](ui::NodeId) { ++fired; };
-  form.cmdOK.Click = [&] {
+  form.tabMain.Captions = {"One", "Two"};
+  form.Show();
+  InHandler([&] {
     form.txtName.Text = "A & B <b>";
     for (const char* log : {"Application", "System"}) form.lstLog.AddItem(log);
     form.lstLog.SetListIndex(1);
@@ -64,13 +66,9 @@ TEST_F(HostTest, AssignmentFiresNothingAndShowsAfterTheHandler) {
     form.tvTree.SetExpanded(root, true);
     form.tvTree.Select(root);
     form.tabMain.Tab = 1;
-    form.cmdCancel.Enabled = false;
-    form.lblName.Visible = false;
+    form.cmdCancel.Enabled = form.lblName.Visible = false;
     form.Caption = "changed";
-  };
-  form.tabMain.Captions = {"One", "Two"};
-  form.Show();
-  Click(form.cmdOK);
+  });
   Serve();
   EXPECT_EQ(0, fired);
   EXPECT_EQ("A & B <b>", WidgetOf<QLineEdit>(form.txtName).text());
@@ -193,14 +191,13 @@ TEST_F(HostTest, AFormMayDieInItsOwnHandler) {
 TEST_F(HostTest, DoEventsTakesInputEveryTenMillisecondsAndPassesErrorsOn) {
   bool stopped = false;
   form.cmdCancel.Click = [&] { stopped = true; };
-  form.cmdOK.Click = [&] {
+  form.Show();
+  InHandler([&] {
     QElapsedTimer time;
     time.start();
     Soon([&] { Click(form.cmdCancel); });
     while (!stopped && time.elapsed() < 2000) Host.DoEvents();
-  };
-  form.Show();
-  Click(form.cmdOK);
+  });
   EXPECT_TRUE(stopped);
 
   form.cmdCancel.Click = Fail;
@@ -244,8 +241,7 @@ TEST_F(HostTest, ATimerTicksWhileEnabledAndNeverIntoItself) {
   form.Show();
   Serve(20);
   EXPECT_EQ(0, ticks);
-  form.cmdOK.Click = [&] { form.tmrTick.Enabled = true; };
-  Click(form.cmdOK);
+  InHandler([&] { form.tmrTick.Enabled = true; });
   Serve(200);
   EXPECT_EQ(3, ticks);
 }
@@ -287,12 +283,10 @@ TEST_F(HostTest, WhatWasPostponedComesBeforeTheNextClick) {
 
 TEST_F(HostTest, ThePointerIsTheHourglassWhereTheFormSaysSo) {
   form.Show();
-  form.cmdOK.Click = [&] { form.MousePointer = ui::Pointer::Hourglass; };
-  form.cmdCancel.Click = [&] { form.MousePointer = ui::Pointer::Default; };
-  Click(form.cmdOK);
-  EXPECT_EQ(Qt::WaitCursor, WidgetOf(form.txtName).cursor().shape());
-  EXPECT_EQ(Qt::WaitCursor, Window(form).cursor().shape());
-  Click(form.cmdCancel);
+  InHandler([&] { form.MousePointer = ui::Pointer::Hourglass; });
+  for (const QWidget* widget : {&WidgetOf(form.txtName), &Window(form)})
+    EXPECT_EQ(Qt::WaitCursor, widget->cursor().shape());
+  InHandler([&] { form.MousePointer = ui::Pointer::Default; });
   EXPECT_EQ(Qt::IBeamCursor, WidgetOf(form.txtName).cursor().shape());
 }
 
