@@ -3,6 +3,7 @@
 
 #include "adapters/linux/HostPaths.h"
 #include "adapters/sqlite/SqliteProvider.h"
+#include "app/installation/TextFile.h"
 #include "support/ChildProcess.h"
 #include "support/ConsoleTest.h"
 
@@ -36,17 +37,8 @@ class LogDeletionTest : public ConsoleTest {
     if (IsLocked) OnMessage("Locked");
     Host.Press(Window().tbrMain, "delete");
   }
-  /// The logs of the domain with their marks, and how many rows are attached to logs of it and of the other domain.
-  std::string Left() {
-    std::string sql =
-        "SELECT (SELECT coalesce(group_concat(IDName || ' ' || DeleteMe, ', '), 'none') FROM RegisteredServers)";
-    for (const char* domain : {"MERIDIAN", "HARBOR"}) {
-      sql += ", 0";
-      for (const char* table : Attached)
-        sql += std::string(" + (SELECT COUNT(*) FROM ") + table + " WHERE [Domain] = '" + domain + "')";
-    }
-    return Console.Rows(sql);
-  }
+  /// The logs with their marks, and how many rows are attached to logs of the domain and of the other one.
+  std::string Left() { return Console.Rows(ReadTextFile(CORVANE_SOURCE_DIR "/tests/console/Left.txt")); }
   auto Updates() { return std::ranges::count_if(Console.Data.Statements, IsUpdate); }
 
   const std::string OneLog = "the Application log on MERA";

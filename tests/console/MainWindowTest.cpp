@@ -1,5 +1,5 @@
+#include "app/installation/TextFile.h"
 #include "support/ConsoleTest.h"
-#include "support/LogRows.h"
 
 namespace corvane::test {
 namespace {
@@ -42,20 +42,7 @@ TEST_F(MainWindowTest, ListsTheLogsOfTheDomainThatAreNotMarked) {
 
 TEST_F(MainWindowTest, CountsAlarmsSinglyAndThroughBundles) {
   for (const char* computer : {"MERA", "MERB"}) Watch(computer, 2);
-  const auto add = [&](const std::string& table, const std::string& fields, const std::string& values) {
-    Console.Rows("INSERT INTO " + table + " (" + fields + ") VALUES (" + values + ")");
-  };
-  const std::string fields = "IDName, Domain, ", row = "'mera2', 'MERIDIAN', ";
-  const std::string disk = AlarmId(Console, "Disk Bad Block", "Disk and File System_2");
-  // One alarm in two attached bundles, one of them attached twice, and once on its own.
-  add("AlarmGroups", "Name", "'Other'");
-  const std::string other = Id(Console, "AlarmGroups", "Other");
-  const std::string disks = Id(Console, "AlarmGroups", "Disk and File System");
-  add("AlarmsInGroups", "AlarmID, AlarmGroupID", disk + ", " + other);
-  for (const std::string& bundle : {other, disks, disks})
-    add("AlarmGroupsForLogs", fields + "AlarmGroupID", row + bundle);
-  for (const char* table : {"AlarmsForLogs", "DenyAlarmsForLogs"}) add(table, fields + "AlarmID", row + disk);
-  add("NotificationsForLogs", fields + "NotificationName", row + "'Duty Desk Popup'");
+  Console.Rows(ReadTextFile(CORVANE_SOURCE_DIR "/tests/console/Attachments.txt"));
   Refresh();
   EXPECT_EQ("MERA|10|1\nMERB|0|0\n", Shown({0, 4, 5}));
 }
