@@ -34,10 +34,10 @@ std::unique_ptr<InstalledPlatform> Install(Installation::Kind kind, const std::f
 }  // namespace
 
 TestConsole::TestConsole(Installation::Kind kind, const std::string& platform)
-    : installed_(Install(kind, Folder(), platform, Host)),
-      System(installed_->Ports().System),
-      Data(installed_->Ports().Data),
-      Ports(Replace(installed_->Ports(), {.System = &System, .Data = &Data})),
+    : Installed(Install(kind, Folder(), platform, Host)),
+      System(Installed->Ports().System),
+      Data(Installed->Ports().Data),
+      Ports(Replace(Installed->Ports(), {.System = &System, .Data = &Data})),
       App(Ports) {}
 
 std::string TestConsole::Rows(const std::string& sql) { return Ask(Folder() / Installation::DatabaseFile, sql); }

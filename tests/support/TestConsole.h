@@ -51,18 +51,12 @@ class TestConsole {
   void SetLab(const std::string& section, const std::string& key, const std::string& value);
   /// Chooses a domain by its name and refills the list.
   void ChooseDomain(const std::string& domain);
-  std::filesystem::path Folder() const { return place_.Path() / "installation"; }
+  std::filesystem::path Folder() const { return Place.Path() / "installation"; }
 
- private:
-  TempFolder place_;
-
- public:
+  // In the order in which each needs those before it.
+  TempFolder Place;
   ScriptedHost Host;
-
- private:
-  std::unique_ptr<InstalledPlatform> installed_;
-
- public:
+  std::unique_ptr<InstalledPlatform> Installed;
   TestSystem System;
   RecordingData Data;
   Platform Ports;
