@@ -47,9 +47,8 @@ class SwitchboardTest : public StartedConsole {
 
   void ClickTool(const std::string& key) {
     auto& bar = *Window().findChild<QToolBar*>("tbrMain");
-    for (QAction* action : bar.actions())
-      if (action->objectName() == QString::fromStdString(key))
-        QTest::mouseClick(bar.widgetForAction(action), Qt::LeftButton, Qt::NoModifier, QPoint(8, 8));
+    auto* action = Window().findChild<QAction*>(QString::fromStdString(key));
+    QTest::mouseClick(bar.widgetForAction(action), Qt::LeftButton, Qt::NoModifier, QPoint(8, 8));
   }
 
   const ui::MenuItem& Item(const std::string& name) {
