@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 namespace corvane::settings {
-namespace {
 
 using namespace std::string_literals;
 
@@ -43,5 +42,4 @@ TEST(RegistryText, RefusesWhatIsNoRegistry) {
     EXPECT_FALSE(ParseRegistry(Head + "[A]\n" + one[0], top)) << one[0];
 }
 
-}  // namespace
 }  // namespace corvane::settings
