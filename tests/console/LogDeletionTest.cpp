@@ -39,8 +39,15 @@ class LogDeletionTest : public ConsoleTest {
   }
   /// The logs with their marks, and how many rows are attached to logs of the domain and of the other one.
   std::string Left() { return Console.Rows(ReadTextFile(CORVANE_SOURCE_DIR "/tests/console/Left.txt")); }
+  /// The configuration database as another process has it open.
+  std::unique_ptr<Connection> OtherProgram() {
+    auto connection = Provider.NewConnection();
+    connection->Open("Provider=Microsoft.Jet.OLEDB.3.51;Data Source=C:\\Corvane\\corvane.db;");
+    return connection;
+  }
   auto Updates() { return std::ranges::count_if(Console.Data.Statements, IsUpdate); }
 
+  SqliteProvider Provider{HostPaths(Console.Folder())};
   const std::string OneLog = "the Application log on MERA";
   /// Whether the next deletion tells of locks.
   bool IsLocked = false;
@@ -103,24 +110,10 @@ TEST_F(LogDeletionTest, AllRowsShareOneBudgetOfRetries) {
   EXPECT_EQ(1, Window().lvwComputers.Count());
 }
 
-// The configuration database as another process has it open.
-class OtherProgram {
- public:
-  explicit OtherProgram(const std::filesystem::path& folder)
-      : provider_(HostPaths(folder)), connection_(provider_.NewConnection()) {
-    connection_->Open("Provider=Microsoft.Jet.OLEDB.3.51;Data Source=C:\\Corvane\\corvane.db;");
-  }
-  Connection* operator->() { return connection_.get(); }
-
- private:
-  SqliteProvider provider_;
-  std::unique_ptr<Connection> connection_;
-};
-
 TEST_F(LogDeletionTest, AnotherProcessHoldsTheRow) {
   ChildProcess holder([&](ChildProcess& self) {
     self.Wait();
-    OtherProgram connection(Console.Folder());
+    const auto connection = OtherProgram();
     connection->BeginTrans();
     connection->Execute("UPDATE RegisteredServers SET DeleteMe = False WHERE IDName = 'MERA1'");
     self.Tell(0);
@@ -149,7 +142,7 @@ TEST_F(LogDeletionTest, AnotherProcessHoldsTheRow) {
 TEST_F(LogDeletionTest, TheServiceRemovesMarkedRows) {
   ChildProcess service([&](ChildProcess& self) {
     self.Wait();
-    OtherProgram connection(Console.Folder());
+    const auto connection = OtherProgram();
     for (int i = 0; i < 1000; ++i) {
       connection->Execute("DELETE FROM RegisteredServers WHERE DeleteMe = True");
       std::this_thread::sleep_for(std::chrono::milliseconds(10));

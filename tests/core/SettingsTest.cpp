@@ -115,11 +115,11 @@ TEST_F(ReghackTest, ListsStringValuesUpToTheEndOrNothing) {
     Store.Statuses = each.Statuses;
     Registry.EnumSubValues(names, values, count, registry::LocalMachine);
     EXPECT_EQ(names, each.Values);
-    EXPECT_EQ(values, Names(each.Values.size(), "v\0"s));
-    EXPECT_EQ(count, static_cast<int>(each.Values.size()));
+    EXPECT_EQ(values, Names(names.size(), "v\0"s));
+    EXPECT_EQ(names.size(), static_cast<std::size_t>(count));
     Registry.EnumSubkeys(names, count, registry::LocalMachine);
     EXPECT_EQ(names, each.Keys);
-    EXPECT_EQ(count, static_cast<int>(each.Keys.size()));
+    EXPECT_EQ(names.size(), static_cast<std::size_t>(count));
   }
   EXPECT_EQ(Yields, 2 * (1 + 4 + 3));
   Store.Statuses.assign(450, Ok);
@@ -167,10 +167,10 @@ TEST_F(PrivateProfileTest, ReadsValuesOfUpTo509Characters) {
 TEST_F(PrivateProfileTest, AMissingNumberLeavesWhatCameIn) {
   EXPECT_TRUE(Profile.WriteString("General", "NumComputers", "3"));
   int value = 7;
-  EXPECT_TRUE(Profile.GetIntValue("General", "Missing", value));
-  EXPECT_EQ(value, 7);
-  EXPECT_TRUE(Profile.GetIntValue("general", "numcomputers", value));
-  EXPECT_EQ(value, 3);
+  for (const auto& [name, read] : {std::pair("Missing", 7), {"numcomputers", 3}}) {
+    EXPECT_TRUE(Profile.GetIntValue("general", name, value));
+    EXPECT_EQ(value, read);
+  }
 }
 
 TEST_F(PrivateProfileTest, CountsTheEqualsSignsWithinTheBuffer) {

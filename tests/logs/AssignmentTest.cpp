@@ -196,12 +196,7 @@ TEST_F(LogEditTest, NotificationsMoveUnderTheirRules) {
 
 TEST_F(LogEditTest, AttachedRowsThatNameNothingAddNothing) {
   WatchSystemLogOf("MERFILE01");
-  Console.Rows(
-      "INSERT INTO AlarmsForLogs (IDName, Domain, AlarmID) VALUES ('MERFILE012', 'MERIDIAN', 99999);"
-      "INSERT INTO AlarmGroupsForLogs (IDName, Domain, AlarmGroupID) VALUES ('MERFILE012', 'MERIDIAN', 99999);"
-      "INSERT INTO NotificationsForLogs (IDName, Domain, NotificationName) VALUES ('MERFILE012', 'MERIDIAN', 'Gone')");
-  // Attachments are read by the key of the log alone: those of a row in another domain show too.
-  Console.Rows("INSERT INTO NotificationsForLogs VALUES ('MERFILE012', 'ELSEWHERE', 'Duty Desk Popup')");
+  Console.Rows(ReadTextFile(CORVANE_SOURCE_DIR "/tests/logs/Attachments.txt"));
   Edit([&](frmLogEdit& form) {
     EXPECT_EQ("Disk Bad Block", Chosen(form.tvSelectedAlarms));
     ASSERT_EQ(1, form.lvwActiveNotifications.Count());
