@@ -130,18 +130,16 @@ TEST_F(Start, OnlyTheVersionsThatHaveThemGetTheNetworkObjects) {
 }
 
 TEST_F(Start, TheNumberOfRapidConfigurationMustBeThere) {
-  const struct {
-    Value Stored;
-    std::uint32_t Type;
-    bool Ends;
-  } cases[] = {{"1.0", registry::String, false}, {"0", registry::String, false},    {"1.4", registry::String, false},
-               {1, registry::Number, false},     {"often", registry::String, true}, {"", registry::String, true}};
-  for (const auto& one : cases) {
+  const std::pair<Value, bool> cases[] = {{"1.0", false}, {"0", false},    {"1.4", false},
+                                          {1, false},     {"often", true}, {"", true}};
+  for (const auto& [stored, ends] : cases) {
     TestConsole console;
-    console.App.State().Registry.SetKeyValue(SettingsKey, "RCAtStartup", one.Stored, one.Type);
-    if (one.Ends) console.Host.OnBox(Message("TypeMismatch"));
+    console.App.State().Registry.SetKeyValue(
+        SettingsKey, "RCAtStartup", stored,
+        std::holds_alternative<std::string>(stored) ? registry::String : registry::Number);
+    if (ends) console.Host.OnBox(Message("TypeMismatch"));
     // The code of the end is the loop's, or 1 where the loop was not reached.
-    EXPECT_EQ(one.Ends ? 1 : 7, RunConsole(console.Ports, [] { return 7; }));
+    EXPECT_EQ(ends ? 1 : 7, RunConsole(console.Ports, [] { return 7; }));
     EXPECT_EQ("frmCVMain", console.Host.Shown.back());
   }
 }

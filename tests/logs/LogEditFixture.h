@@ -2,7 +2,6 @@
 
 #include "logs/frmLogEdit.h"
 #include "support/ConsoleTest.h"
-#include "support/LogRows.h"
 
 namespace corvane::test {
 

@@ -1,13 +1,31 @@
 #include "logs/LogEditFixture.h"
 #include "platform/RuntimeError.h"
+#include "support/Cases.h"
 
 namespace corvane::test {
 namespace {
 
-std::string Insert(const std::string& idName, const std::string& table, const std::string& field,
-                   const std::string& value) {
-  return "INSERT INTO " + table + " ([IDName], [Domain], " + field + ") VALUES ('" + idName + "', 'MERIDIAN', " +
-         value + ")";
+// The statements of a file, in which a query in braces stands for what it gives.
+std::vector<std::string> Statements(TestConsole& console, const std::string& file) {
+  std::vector<std::string> all;
+  for (const auto& row : Cases(file)) {
+    all.push_back(row[0]);
+    for (std::size_t begin; (begin = all.back().find('{')) != std::string::npos;) {
+      const std::size_t length = all.back().find('}') - begin + 1;
+      const std::string given = console.Rows(all.back().substr(begin + 1, length - 2));
+      all.back().replace(begin, length, given.substr(0, given.find('\n')));
+    }
+  }
+  return all;
+}
+
+// All rows that make up the watched logs.
+std::string AllRows(TestConsole& console) {
+  std::string all;
+  for (const std::string table : {"RegisteredServers", "AlarmsForLogs", "DenyAlarmsForLogs", "AlarmGroupsForLogs",
+                                  "DenyAlarmGroupsForLogs", "NotificationsForLogs"})
+    all += table + "\n" + console.Rows("SELECT * FROM " + table);
+  return all;
 }
 
 TEST_F(LogEditTest, AddWritesAllRowsInTheirOrderAndSelectsTheNewLog) {
@@ -22,21 +40,10 @@ TEST_F(LogEditTest, AddWritesAllRowsInTheirOrderAndSelectsTheNewLog) {
     Console.Data.Forget();
     Save(form);
   });
-  const std::string id = "MerFile012", noise = Id(Console, "AlarmGroups", "Everyday Noise to Ignore"),
-                    accounts = Id(Console, "AlarmGroups", "Account and Group Changes"),
-                    disk = AlarmId(Console, "Disk Bad Block", "Disk and File System_2");
-  // The single ignore event stands in the bundle too: the bundle wins, and it is not written.
-  EXPECT_EQ((std::vector<std::string>{"INSERT INTO RegisteredServers VALUES ('" + id +
-                                          "', 'MERIDIAN', 'MerFile01', 2, 0, 0, " + Counters(Console, id) + ")",
-                                      Insert(id, "NotificationsForLogs", "NotificationName", "'Duty Desk Popup'"),
-                                      Insert(id, "NotificationsForLogs", "NotificationName", "'Operations by Mail'"),
-                                      Insert(id, "DenyAlarmGroupsForLogs", "AlarmGroupID", noise),
-                                      Insert(id, "AlarmGroupsForLogs", "AlarmGroupID", accounts),
-                                      Insert(id, "AlarmsForLogs", "AlarmID", disk)}),
-            Console.Data.Changes());
+  EXPECT_EQ(Statements(Console, "logs/Added.txt"), Console.Data.Changes());
   EXPECT_EQ("2026-11-16-14-5-9", Console.Setting("LastDBUpdate"));
   EXPECT_EQ(0, Window().lvwComputers.SelectedRow());
-  EXPECT_EQ(id, Window().CurrentIDName());
+  EXPECT_EQ("MerFile012", Window().CurrentIDName());
   EXPECT_EQ("2", Window().lvwComputers.Item(0).Cell(5));
   EXPECT_EQ("1 log(s) watched by Corvane", Panel(0));
 }
@@ -57,13 +64,7 @@ TEST_F(LogEditTest, EditFindsAllAsItWasLeftAndRewritesTheAttachmentsOnly) {
     Console.System.Clock = [] { return MakeDateTime(2026, 1, 2, 3, 4, 5); };
     Save(form);
   });
-  std::vector<std::string> expected;
-  for (const std::string table :
-       {"AlarmsForLogs", "NotificationsForLogs", "AlarmGroupsForLogs", "DenyAlarmsForLogs", "DenyAlarmGroupsForLogs"})
-    expected.push_back("DELETE FROM " + table + " WHERE IDName = 'MERFILE012' AND [Domain] = 'MERIDIAN'");
-  expected.push_back(
-      Insert("MERFILE012", "AlarmGroupsForLogs", "AlarmGroupID", Id(Console, "AlarmGroups", "Disk and File System")));
-  EXPECT_EQ(expected, Console.Data.Changes());
+  EXPECT_EQ(Statements(Console, "logs/Rewritten.txt"), Console.Data.Changes());
   EXPECT_EQ(server, Console.Rows("SELECT * FROM RegisteredServers"));
   EXPECT_EQ("2026-1-2-3-4-5", Console.Setting("LastDBUpdate"));
   // Reopened, the alarm shows below the bundle alone.
