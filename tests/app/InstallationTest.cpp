@@ -202,26 +202,13 @@ TEST_F(InstallationTest, NothingIsOverwritten) {
 }
 
 TEST_F(InstallationTest, TheCommandLineSaysWhatWentWrong) {
-  const std::string folder = folder_.string(), usage = "Usage: corvane-install DIR ";
   const fs::path program = place_.Write("console", "the program");
-  const struct {
-    std::vector<std::string> Arguments;
-    int Code;
-    std::string Said;
-  } cases[] = {{{}, 2, "no folder\n\n" + usage},
-               {{"--fast", folder}, 2, "unknown option --fast\n\n" + usage},
-               {{folder, "--lab", "--first-run"}, 2, "--lab and --first-run exclude each other\n\n" + usage},
-               {{folder, "other"}, 2, "more than one folder\n\n" + usage},
-               {{folder, "--data"}, 2, "--data needs a folder\n\n" + usage},
-               {{"--help"}, 0, usage},
-               {{folder, "--data", "/none"}, 1, "the data folder /none does not exist\n"},
-               {{"--lab", folder}, 0, "The installation stands in " + folder + ".\n"},
-               {{folder}, 1, folder + " holds an installation already\n"}};
-  for (const auto& [arguments, code, said] : cases) {
+  for (const auto& one : Cases("app/CommandLines.txt", {{"folder", folder_.string()}})) {
     std::ostringstream out, err;
-    EXPECT_EQ(InstallerCommand(shipped, program, out, err).Run(arguments), code);
-    EXPECT_TRUE((code == 0 ? out : err).str().starts_with((code == 0 ? "" : "corvane-install: ") + said)) << said;
-    EXPECT_EQ((code == 0 ? err : out).str(), "");
+    const bool done = one[0] == "0";
+    EXPECT_EQ(InstallerCommand(shipped, program, out, err).Run({one.begin() + 2, one.end()}), std::stoi(one[0]));
+    EXPECT_TRUE((done ? out : err).str().starts_with(one[1])) << one[1];
+    EXPECT_EQ((done ? err : out).str(), "");
   }
   EXPECT_EQ(ReadTextFile(folder_ / Installation::ProgramFile), "the program");
 }

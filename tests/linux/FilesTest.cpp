@@ -2,6 +2,7 @@
 
 #include "adapters/linux/HostPaths.h"
 #include "adapters/linux/LinuxFiles.h"
+#include "support/Cases.h"
 #include "support/ChildProcess.h"
 #include "support/ErrorOf.h"
 #include "support/TempFolder.h"
@@ -21,17 +22,8 @@ TEST_F(FilesTest, PathsOfTheConsoleFindTheirPlaceWithoutRegardToCase) {
   fs::create_directories(Folder.Path() / "AgentConfigs");
   for (const char* name : {"AgentConfigs/Server1.INI", "both.txt", "BOTH.txt", "M\u00DCller.ini"})
     Folder.Write(name, "");
-  const std::string here = Folder.Path().string();
-  const std::pair<std::string, fs::path> cases[] = {
-      {R"(c:\CORVANE\agentconfigs\SERVER1.ini)", here + "/AgentConfigs/Server1.INI"},
-      {R"(C:\Corvane\agentconfigs\New.ini)", here + "/AgentConfigs/New.ini"},
-      {R"(C:\Corvane\both.txt)", here + "/both.txt"},
-      {R"(C:\Corvane\Both.txt)", here + "/BOTH.txt"},
-      {"C:\\Corvane\\m\u00FCller.INI", here + "/M\u00DCller.ini"},
-      {here + R"(\AGENTCONFIGS/server1.ini)", here + "/AgentConfigs/Server1.INI"},
-      {R"(C:\CorvaneData\x.txt)", "C:/CorvaneData/x.txt"},
-  };
-  for (const auto& [path, place] : cases) EXPECT_EQ(Paths(path), place) << path;
+  for (const auto& one : Cases("linux/Paths.txt", {{"here", Folder.Path().string()}}))
+    EXPECT_EQ(Paths(one[0]), one[1]) << one[0];
 }
 
 TEST_F(FilesTest, LinesEndInEachOfThreeWays) {

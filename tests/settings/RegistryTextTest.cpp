@@ -22,11 +22,7 @@ TEST(RegistryText, WritesEachKindOfValueAndReadsItBack) {
   EXPECT_EQ(FormatRegistry(read), expected);
 
   // As an administrator types it.
-  ASSERT_TRUE(ParseRegistry(
-      "\xEF\xBB\xBF"
-      "Corvane Registry Version 1.00\r\n; a comment\r\n\r\n  [A\\b]  \r\n"
-      "\t\"Path\" = \"x\"\r\n\"N\"=dword:a\r\n\"B\"=hex:01, 02,\\\r\n  03\r\n\"path\"=\"C:\\New folder\\x.mdb\"",
-      typed));
+  ASSERT_TRUE(ParseRegistry(ReadTextFile(CORVANE_SOURCE_DIR "/tests/settings/typed.reg"), typed));
   EXPECT_EQ(FormatRegistry(typed), Head +
                                        "\n[A]\n\n[A\\b]\n\"Path\"=\"C:\\\\New folder\\\\x.mdb\"\n"
                                        "\"N\"=dword:0000000a\n\"B\"=hex:01,02,03\n");
