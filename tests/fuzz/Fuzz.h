@@ -1,9 +1,10 @@
 #pragma once
 
-#include <cstddef>
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
-#include <string>
+
+#include "support/ErrorOf.h"
 
 namespace corvane::fuzz {
 
@@ -13,6 +14,12 @@ void Try(const std::string& input);
 /// Ends the run with a report of the input where something does not hold that must.
 inline void Require(bool holds) {
   if (!holds) std::abort();
+}
+
+/// The work ends well or with one of these errors.
+inline void RequireErrors(std::initializer_list<int> known, const std::function<void()>& work) {
+  const int error = test::ErrorOf(work);
+  Require(error == 0 || std::find(known.begin(), known.end(), error) != known.end());
 }
 
 }  // namespace corvane::fuzz

@@ -4,7 +4,6 @@
 #include "fuzz/Fuzz.h"
 #include "logs/ChosenTree.h"
 #include "platform/Conversions.h"
-#include "support/ErrorOf.h"
 #include "support/TestConsole.h"
 
 namespace corvane::fuzz {

@@ -4,7 +4,6 @@
 #include "fuzz/Fuzz.h"
 #include "platform/Conversions.h"
 #include "platform/data/Value.h"
-#include "support/ErrorOf.h"
 
 namespace corvane::fuzz {
 namespace {

@@ -4,7 +4,6 @@
 #include "adapters/sqlite/FindCriterion.h"
 #include "adapters/sqlite/SelectStatement.h"
 #include "fuzz/Fuzz.h"
-#include "support/ErrorOf.h"
 
 namespace corvane::fuzz {
 namespace {
@@ -29,19 +28,14 @@ void CheckAdapted(const std::string& sql) {
   sqlite3_finalize(statement);
 }
 
-void RequireSyntaxErrors(const std::function<void()>& work) {
-  const int error = test::ErrorOf(work);
-  Require(error == 0 || error == errors::DataSyntax);
-}
-
 }  // namespace
 
 void Try(const std::string& input) {
   std::string adapted;
-  RequireSyntaxErrors([&] { adapted = AdaptSql(input); });
+  RequireErrors({errors::DataSyntax}, [&] { adapted = AdaptSql(input); });
   CheckAdapted(adapted);
-  RequireSyntaxErrors([&] { WithRowId(SelectStatement(input)); });
-  RequireSyntaxErrors([&] { FindCriterion(input).Meets(std::string("1")); });
+  RequireErrors({errors::DataSyntax}, [&] { WithRowId(SelectStatement(input)); });
+  RequireErrors({errors::DataSyntax}, [&] { FindCriterion(input).Meets(std::string("1")); });
 }
 
 }  // namespace corvane::fuzz
