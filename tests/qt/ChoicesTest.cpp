@@ -1,9 +1,6 @@
-#include <QCheckBox>
 #include <QClipboard>
 #include <QFileDialog>
-#include <QLineEdit>
 #include <QMenu>
-#include <QRadioButton>
 #include <QToolButton>
 #include <QTreeWidget>
 
@@ -78,10 +75,10 @@ TEST_F(HostTest, AToolbarButtonActsAndItsArrowDropsDown) {
   menus.tbrMain.Buttons = {{"tools", "", "", "add", true, false, {{"First", add("first")}, {"Second", add("second")}}}};
   menus.tbrMain.ButtonClick = [&](const std::string& key) { order += key + " "; };
   menus.Show();
-  auto* button = Window(menus).findChild<QToolButton*>();
+  QToolButton* button = nullptr;
   for (QToolButton* one : Window(menus).findChildren<QToolButton*>())
     if (one->menu() != nullptr) button = one;
-  ASSERT_NE(nullptr, button->menu());
+  ASSERT_NE(nullptr, button);
   EXPECT_EQ(QToolButton::MenuButtonPopup, button->popupMode());
   QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
   button->menu()->actions().at(1)->trigger();
@@ -102,9 +99,8 @@ TEST_F(HostTest, AFileIsNamedInADialog) {
     return Host.SaveFile(dialog);
   };
   EXPECT_EQ(std::nullopt, answer([](QFileDialog& chooser) { chooser.reject(); }));
-  std::string expected = (folder.Path() / "other.htm").string();
-  std::replace(expected.begin(), expected.end(), '/', '\\');
-  EXPECT_EQ(expected, answer([&](QFileDialog& chooser) {
+  const QString expected = QString::fromStdString(folder.Path() / "other.htm").replace('/', '\\');
+  EXPECT_EQ(expected.toStdString(), answer([&](QFileDialog& chooser) {
               chooser.setDirectory(QString::fromStdString(folder.Path().string()));
               chooser.selectFile("other");
               QTest::keyClick(&chooser, Qt::Key_Return);

@@ -1,6 +1,4 @@
 #include <QElapsedTimer>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QMessageBox>
