@@ -1,3 +1,4 @@
+#include "core/LogTypes.h"
 #include "logs/LogEditFixture.h"
 #include "support/Cases.h"
 
@@ -18,7 +19,7 @@ TEST_F(LogEditTest, OpensForAddWithTheDomainsComputersAndTheFirstLog) {
     EXPECT_FALSE(form.lblWait.Visible || form.tmrLoad.Enabled);
     EXPECT_EQ(ui::Pointer::Default, Window().lvwComputers.MousePointer);
     EXPECT_EQ("MERDC01 Application", form.lstComputerName.Text() + " " + form.lstLogType.Text());
-    EXPECT_EQ("Directory Service", form.lstLogType[4]);
+    for (int log = 1; log <= 6; ++log) EXPECT_EQ(LogName(log), form.lstLogType[log - 1]);
     EXPECT_FALSE(form.fraStatistics.Visible || form.fraServerStatistics.Visible);
     EXPECT_EQ("Choose Computer and Log", form.tabMain.Captions[0]);
     Host.Click(form.cmdCancel);
