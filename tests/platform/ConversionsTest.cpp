@@ -4,7 +4,6 @@
 
 #include <cmath>
 #include <utility>
-#include <vector>
 
 #include "platform/RuntimeError.h"
 #include "platform/data/Value.h"

@@ -5,7 +5,6 @@
 #include <QTreeWidget>
 
 #include "HostFixture.h"
-#include "adapters/qt/ContainerDialog.h"
 #include "platform/RuntimeError.h"
 #include "support/TempFolder.h"
 

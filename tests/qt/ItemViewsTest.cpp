@@ -1,5 +1,4 @@
 #include <QHeaderView>
-#include <QMenu>
 
 #include "HostFixture.h"
 
