@@ -1,6 +1,8 @@
+#include <algorithm>
 #include <set>
 
 #include "core/Browser.h"
+#include "core/console/frmBegin.h"
 #include "core/console/frmControlService.h"
 #include "platform/Launcher.h"
 #include "platform/RuntimeError.h"
@@ -37,6 +39,21 @@ class CommandsTest : public ConsoleTest {
   corvane::Console App{Ports};
   modMain& Main = App.State();
 };
+
+TEST_F(CommandsTest, EveryWayLeadsToItsScreen) {
+  const auto opens = [&](const std::string& form, const std::function<void()>& act) {
+    Host.OnModal(form, [](ui::Form& shown) { shown.CloseBox(); });
+    act();
+    Host.SelectOnly(Window().lvwComputers, 0);
+  };
+  for (const Command& command : Switchboard) {
+    if (command.Form.empty()) continue;
+    if (!command.Key.empty()) opens(command.Form, [&] { Host.Press(Window().tbrMain, command.Key); });
+    for (ui::Control* control : Window().Controls())
+      if (std::count(command.Items.begin(), command.Items.end(), control->Name()) > 0)
+        opens(command.Form, [&] { Host.Click(static_cast<ui::MenuItem&>(*control)); });
+  }
+}
 
 // No button and no item is there that the switchboard does not know, and none that it knows is missing.
 TEST_F(CommandsTest, NothingLeadsNowhere) {
@@ -190,6 +207,12 @@ TEST_F(CommandsTest, ALinkStandsInItsPlaceOrBehindTheCommandOfTheBrowser) {
     open(registered);
     EXPECT_EQ(command, Programs.Ran.back());
   }
+  // A link is one argument, whatever it holds.
+  open("b.exe \"%1\"");
+  OpenInBrowser(Main, "https://x.example/?a=\"b c\"&d=$(e)\\");
+  EXPECT_EQ("b.exe \"https://x.example/?a=%22b%20c%22&d=$(e)%5C\"", Programs.Ran.back());
+  frmBegin(Main).imgSupport.Click(0);
+  EXPECT_EQ("b.exe \"https://www.tarnwick.example/corvane/support\"", Programs.Ran.back());
   OnMessage("NoBrowser", "https://x.example/?a=%1");
   open("");
 }
