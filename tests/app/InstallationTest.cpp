@@ -76,6 +76,8 @@ TEST_F(InstallationTest, EverySettingIsThereWithItsTypeAndWithinItsRange) {
   EXPECT_NE(ValueIn(file, registry::ClassesRoot, R"(http\shell\open\command)", "").find("%1"), std::string::npos);
   const std::string modems = R"(SYSTEM\CurrentControlSet\Control\Class\{4D36E96D-E325-11CE-BFC1-08002BE10318}\000)";
   for (const char* index : {"0", "1"}) EXPECT_NE(Local(modems + index, "FriendlyName"), "");
+  for (const char* name : {"Created", "DefaultDomain", "ManagingADomain"})
+    EXPECT_EQ(Local(SettingsKey, name), "") << name << " is asked for at the first start";
   for (const char* name : {Installation::RapidConfigFolder, Installation::AgentConfigFolder})
     EXPECT_TRUE(fs::is_directory(folder_ / name));
 }
@@ -84,6 +86,8 @@ TEST_F(InstallationTest, EveryComputerOfTheLabTellsItsSystemAndLogs) {
   ASSERT_EQ(LayOut(folder_, Installation::Kind::Lab), "");
   LabNetwork lab = Lab();
   const auto model = lab.Model();
+  EXPECT_EQ(Local(SettingsKey, "Created") + Local(SettingsKey, "ManagingADomain"), "'1'1");
+  EXPECT_EQ(Local(SettingsKey, "DefaultDomain"), "'" + model->Domains.front().Name + "'");
   EXPECT_GE(model->Computers.size(), 60u);
   for (const LabComputer& computer : model->Computers) {
     SCOPED_TRACE(computer.Name);
