@@ -54,6 +54,7 @@ TEST_F(ListViewModel, MovesSelectionAndFocusWithTheirRow) {
   List.Add({"", "d1", {}, "", true});
   EXPECT_EQ("a1 b1 c1 d1* ", Texts());
   List.Remove(0);
+  EXPECT_EQ("b1 c1 d1* ", Texts());
   List.Remove(2);
   EXPECT_EQ("b1 c1 ", Texts());
   EXPECT_EQ(1, List.FocusRow());
