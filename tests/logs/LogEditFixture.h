@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/installation/TextFile.h"
 #include "logs/frmLogEdit.h"
 #include "support/ConsoleTest.h"
 
@@ -28,8 +29,10 @@ class LogEditTest : public ConsoleTest {
     std::istringstream parts(path);
     for (std::string part; std::getline(parts, part, '|');) {
       if (node != 0 && !tree.Node(node).Expanded) Host.Open(tree, node);
-      node = Child(tree, node, part);
-      ASSERT_NE(0, node) << part;
+      const auto children = tree.ChildrenOf(node);
+      const auto found = std::ranges::find(children, part, [&](ui::NodeId child) { return tree.Node(child).Text; });
+      ASSERT_NE(children.end(), found) << part;
+      node = *found;
     }
     Host.ClickNode(tree, node);
   }
@@ -63,10 +66,11 @@ class LogEditTest : public ConsoleTest {
     Host.Choose(form.lstLogType, 1);
   }
 
-  static ui::NodeId Child(const ui::TreeView& tree, ui::NodeId parent, const std::string& text) {
-    for (const ui::NodeId child : tree.ChildrenOf(parent))
-      if (tree.Node(child).Text == text) return child;
-    return 0;
+  /// The statements that changed rows are those that the queries of a file give.
+  void ExpectChanges(const std::string& file) {
+    std::string changes;
+    for (const std::string& sql : Console.Data.Changes()) changes += sql + "\n";
+    EXPECT_EQ(Console.Rows(ReadTextFile(CORVANE_SOURCE_DIR "/tests/logs/" + file)), changes);
   }
   /// Texts of the nodes at the top, parted by ", ".
   static std::string Chosen(const ui::TreeView& tree) {
