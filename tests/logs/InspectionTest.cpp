@@ -1,7 +1,7 @@
 #include "adapters/lab/LabChannelReader.h"
+#include "adapters/lab/LabEventLogs.h"
 #include "logs/LogEditFixture.h"
 #include "logs/LogInspection.h"
-#include "platform/EventLogs.h"
 #include "platform/RuntimeError.h"
 #include "support/Cases.h"
 #include "support/ReplacedPorts.h"
@@ -10,25 +10,16 @@ namespace corvane::test {
 namespace {
 
 // A classic log whose second reading can fail, which the lab's logs never do.
-class FailingLogs : public EventLogs {
+class FailingLogs : public LabEventLogs {
  public:
-  EventLogHandle Open(const std::string& server, const std::string&) override {
-    Server = server;
-    return 1;
+  using LabEventLogs::LabEventLogs;
+  bool GetOldestRecord(EventLogHandle log, std::uint32_t& number) override {
+    return LabEventLogs::GetOldestRecord(log, number) && !OldestFails;
   }
-  bool GetOldestRecord(EventLogHandle, std::uint32_t& number) override {
-    number = 100;
-    return !OldestFails;
+  bool GetNumberOfRecords(EventLogHandle log, std::uint32_t& count) override {
+    return LabEventLogs::GetNumberOfRecords(log, count) && OldestFails;
   }
-  bool GetNumberOfRecords(EventLogHandle, std::uint32_t& count) override {
-    count = 50;
-    return OldestFails;
-  }
-  void Close(EventLogHandle) override { ++Closed; }
-
   bool OldestFails = false;
-  int Closed = 0;
-  std::string Server;
 };
 
 class CountersTest : public LogEditTest {
@@ -59,7 +50,8 @@ TEST_F(CountersTest, ClassicLogsAndChannelsCountDifferently) {
 
 TEST_F(CountersTest, WhatCannotBeReadCountsNothing) {
   for (const char* computer : {"MERBACKUP", "NOSUCHPC"}) EXPECT_EQ("0 0", Read(computer));
-  FailingLogs logs;
+  LabNetwork network(Console.Folder() / Installation::LabFile);
+  FailingLogs logs(network);
   Platform ports = Replace(Console.Ports, {.EventLogs = &logs});
   modMain main(ports);
   for (const bool oldestFails : {true, false}) {
@@ -68,8 +60,7 @@ TEST_F(CountersTest, WhatCannotBeReadCountsNothing) {
     EXPECT_EQ(CountersResult::Read, ReadRecordCounters(main, "MERFILE01", "System", counters));
     EXPECT_EQ(0, counters.First + counters.Second);
   }
-  EXPECT_EQ(2, logs.Closed);
-  EXPECT_EQ("\\\\MERFILE01", logs.Server);
+  EXPECT_EQ(0u, logs.OpenHandles());
 }
 
 // Without a log file the channel's own handle stays open: left so, and watched here for not growing elsewhere.
