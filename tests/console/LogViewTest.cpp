@@ -142,12 +142,6 @@ TEST_F(LogViewTest, TheReportIsRightToTheByte) {
             "Save Corvane Service Log Records To...|HTML files (*.htm)|*.htm|Corvane_Service_Log_Entries.htm");
 }
 
-// What cannot be read ends the reading, and the caption with it.
-TEST_F(LogViewTest, TheShippedLogIsReadToItsBeginning) {
-  const std::string first = FixDate(ReadTextFile(Log));
-  View([&](frmLogView& form) { EXPECT_TRUE(form.fraEvents.Caption.ends_with("Since " + first)); });
-}
-
 TEST(EventDateTest, ATimeIsReadInItsColumns) {
   for (const auto& one : Cases("console/EventDates.txt")) EXPECT_EQ(one[1], FixDate(one[0])) << one[0];
 }
