@@ -63,15 +63,6 @@ TEST_F(DomainScreens, ADefaultDomainIsSavedByItsFlatNameInCapitals) {
   }
 }
 
-TEST_F(DomainScreens, CancelEndsAFirstRunIfTheUserSaysSo) {
-  frmDomainChooser form(Main);
-  form.IsFirstRun = true;
-  for (const MsgResult answer : {MsgResult::No, MsgResult::Yes}) OnMessage("EndNow", "", answer);
-  form.CloseBox();
-  EXPECT_THROW(form.CloseBox(), ui::ProgramEnd);
-  EXPECT_FALSE(form.IsUnloaded());
-}
-
 TEST_F(DomainScreens, AUnitThatWasChosenGivesItsComputers) {
   Prepare(6, "MERIDIAN");
   OnMessage("NoUnit");
