@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <set>
 
+#include "adapters/lab/LabServiceManager.h"
 #include "core/Browser.h"
 #include "core/console/frmBegin.h"
 #include "core/console/frmControlService.h"
@@ -136,6 +137,7 @@ TEST_F(CommandsTest, ServicesAreStartedAndStopped) {
     }
   }
   EXPECT_EQ(ui::Pointer::Default, main.lvwComputers.MousePointer);
+  EXPECT_EQ(0U, dynamic_cast<LabServiceManager&>(Console.Ports.Services).OpenHandles());
 }
 
 TEST_F(CommandsTest, TheOptionsMenuReadsTheStatesAnew) {

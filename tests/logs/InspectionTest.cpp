@@ -1,5 +1,6 @@
 #include "adapters/lab/LabChannelReader.h"
 #include "adapters/lab/LabEventLogs.h"
+#include "core/RemoteLogs.h"
 #include "logs/LogEditFixture.h"
 #include "logs/LogInspection.h"
 #include "platform/RuntimeError.h"
@@ -71,6 +72,12 @@ TEST_F(CountersTest, OneHandleLeaksWhereTheLogFileIsMissing) {
   SetLog("MERDC01", "oldest 1, count 5, off");
   EXPECT_EQ("0 0", Read("MERDC01"));
   EXPECT_EQ(1u, reader.OpenHandles());
+}
+
+TEST_F(LogEditTest, RemoteLogsExistWhereTheRegistryNamesAFile) {
+  Console.SetLab("Lab", "TimeoutMs", "1");
+  for (const auto& c : Cases("logs/RemoteLogs.txt"))
+    EXPECT_EQ(c[2], LogExistsOnComputer(Main, c[0], c[1]) ? "yes" : "no") << c[0] << c[1];
 }
 
 class PaneTest : public LogEditTest {
