@@ -164,13 +164,17 @@ TEST_F(PrivateProfileTest, ReadsValuesOfUpTo509Characters) {
   }
 }
 
-TEST_F(PrivateProfileTest, AMissingNumberLeavesWhatCameIn) {
+TEST_F(PrivateProfileTest, AMissingNumberLeavesWhatCameInAndCreatingTheFileEmptiesIt) {
   EXPECT_TRUE(Profile.WriteString("General", "NumComputers", "3"));
   int value = 7;
   for (const auto& [name, read] : {std::pair("Missing", 7), {"numcomputers", 3}}) {
     EXPECT_TRUE(Profile.GetIntValue("general", name, value));
     EXPECT_EQ(value, read);
   }
+  EXPECT_TRUE(Profile.CreateINIFile());
+  EXPECT_EQ(Folder.Read("a.ini"), "");
+  Profile.FileName = "no/folder/a.ini";
+  EXPECT_FALSE(Profile.CreateINIFile());
 }
 
 TEST_F(PrivateProfileTest, CountsTheEqualsSignsWithinTheBuffer) {
@@ -182,14 +186,6 @@ TEST_F(PrivateProfileTest, CountsTheEqualsSignsWithinTheBuffer) {
   for (int i = 1000; i < 1600; ++i) text += std::to_string(i) + "=" + std::string(95, 'x') + "\r\n";
   Folder.Write("a.ini", text);
   EXPECT_EQ(Profile.GetSectionSize("Alarms"), 297);
-}
-
-TEST_F(PrivateProfileTest, CreatingTheFileEmptiesIt) {
-  EXPECT_TRUE(Profile.WriteString("A", "k", "1"));
-  EXPECT_TRUE(Profile.CreateINIFile());
-  EXPECT_EQ(Folder.Read("a.ini"), "");
-  Profile.FileName = "no/folder/a.ini";
-  EXPECT_FALSE(Profile.CreateINIFile());
 }
 
 }  // namespace

@@ -42,7 +42,6 @@ TEST(DateText, LeavesOutMidnightAndCountsHoursToTwelve) {
 }
 
 TEST(TimeStamp, HoldsTheDateAndTimeWithoutLeadingZeros) {
-  EXPECT_EQ("1_2_2026_3_4_5", TimeStampText(MakeDateTime(2026, 1, 2, 3, 4, 5)));
   for (const auto& c : Cases("core/Stamps.txt")) {
     std::string stamp;
     const int error = ErrorOf([&] { stamp = TimeStampText(ParseTimeStamp(c[0])); });
