@@ -64,12 +64,12 @@ bool frmServiceAccount::Form_Load() {
   computer_ = main_.Registry.FindCompName();
   const bool managesDomain = main_.SettingNumber("ManagingADomain") == 1;
   lblInfo.Caption =
-      "Choose the account under which the Corvane Service runs on " + computer_ +
+      "Choose the account under which the Corvane Service runs on " + ui::Literal(computer_) +
       ", and type its password.  The service reads event logs under this account, which therefore needs administrator "
       "rights on the computers that you watch.";
-  optAccountSource[DomainSource].Caption = "&I want to choose a domain account from domain " + domain_;
+  optAccountSource[DomainSource].Caption = "&I want to choose a domain account from domain " + ui::Literal(domain_);
   optAccountSource[DomainSource].Visible = managesDomain;
-  optAccountSource[LocalSource].Caption = "I &want to choose a local account from computer " + computer_;
+  optAccountSource[LocalSource].Caption = "I &want to choose a local account from computer " + ui::Literal(computer_);
   ui::ChooseOption(optAccountSource, managesDomain ? DomainSource : LocalSource);
   return true;
 }

@@ -34,6 +34,9 @@ enum class ControlKind {
 
 enum class Pointer { Default = 0, Hourglass = 11 };
 
+/// A text within a caption that has no mnemonic of its own: each `&` doubled.
+std::string Literal(std::string_view text);
+
 /// A part of a form: plain fields that hold what is shown, and handlers that the host fires. A control adds itself to
 /// its form when it is made, so the order of declaration is the tab order.
 class Control {

@@ -5,6 +5,12 @@
 
 namespace corvane::ui {
 
+std::string Literal(std::string_view text) {
+  std::string literal;
+  for (const char character : text) literal.append(character == '&' ? 2 : 1, character);
+  return literal;
+}
+
 Control::Control(Form& form, std::string_view name, ControlKind kind) : form_(form), name_(name), kind_(kind) {
   form.controls_.push_back(this);
 }
