@@ -58,10 +58,6 @@ TEST(Conversions, CompareWithoutCaseUpToLatinLetters) {
   EXPECT_EQ("", Trim("   "));
 }
 
-TEST(Conversions, FillUpWithZeros) {
-  EXPECT_EQ("0007 12345 -07", PadZero(7, 4) + " " + PadZero(12345, 4) + " " + PadZero(-7, 2));
-}
-
 TEST(Values, AreReadAsTextNumberAndBoolean) {
   struct {
     Value Stored;
