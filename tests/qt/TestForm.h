@@ -54,7 +54,6 @@ class frmMenus : public ui::Form {
   ui::MenuItem mnuPopup{*this, "mnuPopup", ""};
   ui::MenuItem mnuPopupDelete{mnuPopup, "mnuPopupDelete", "&Delete"};
   ui::Toolbar tbrMain{*this, "tbrMain"};
-  ui::StatusBar stbMain{*this, "stbMain"};
 };
 
 inline qt::FormRegistry TestForms() {
