@@ -13,8 +13,8 @@ namespace corvane {
 /// takes longer than the timeout: a bus that is dead gives failures, not a console that hangs.
 class SystemdBus {
  public:
-  /// Connects to the machine's own bus for "system", else to the bus of this address in the form of the D-Bus
-  /// specification (`unix:path=...`). Null on failure.
+  /// Connects to the machine's own bus for "system", else to the bus of this D-Bus address
+  /// (`unix:path=...`). Null on failure.
   static std::unique_ptr<SystemdBus> Connect(const std::string& bus, std::chrono::milliseconds timeout);
 
   /// Has systemd read the unit, which may be missing all the same, and gives the path of its object.
