@@ -60,15 +60,12 @@ class ReghackTest : public testing::Test {
 };
 
 TEST_F(ReghackTest, ReadsBackWhatItWroteWithTheFinalZeroOfStringsOnly) {
-  const struct {
-    Value Written;
-    std::uint32_t Type;
-    std::string Read;
-  } cases[] = {{"text", registry::String, "text\0"s}, {"", registry::String, "\0"s},  {7, registry::String, "7\0"s},
-               {-65536, registry::Number, "-65536"},  {"12", registry::Number, "12"}, {"x", registry::Binary, "12"}};
-  for (const auto& each : cases) {
-    Registry.SetKeyValue(Settings, "Value", each.Written, each.Type);
-    EXPECT_EQ(Registry.GetKeyValue(Settings, "VALUE"), each.Read);
+  const std::tuple<Value, std::uint32_t, std::string> cases[] = {
+      {"text", registry::String, "text\0"s}, {"", registry::String, "\0"s},  {7, registry::String, "7\0"s},
+      {-65536, registry::Number, "-65536"},  {"12", registry::Number, "12"}, {"x", registry::Binary, "12"}};
+  for (const auto& [written, type, read] : cases) {
+    Registry.SetKeyValue(Settings, "Value", written, type);
+    EXPECT_EQ(Registry.GetKeyValue(Settings, "VALUE"), read);
   }
   EXPECT_THROW(Registry.SetKeyValue(Settings, "Value", "letters", registry::Number), RuntimeError);
   EXPECT_EQ(Registry.GetKeyValue(Settings, "Missing") + Registry.GetKeyValue("Software\\Missing", "Value"), "");
@@ -90,37 +87,29 @@ TEST_F(ReghackTest, SettingAndDeletingTellWhetherTheyWereDone) {
   Registry.SetKeyValueHKCR("http\\shell", "", "browser", String);
   EXPECT_EQ(Registry.GetKeyValueHKCR("http\\shell", ""), "browser\0"s);
   EXPECT_TRUE(Registry.SetRemoteKeyValue(Settings, "Value", "1", String, LocalMachine));
-  EXPECT_TRUE(Registry.DeleteKeyValue(Settings, "Value"));
-  EXPECT_FALSE(Registry.DeleteKeyValue(Settings, "Value"));
-  EXPECT_FALSE(Registry.DeleteKeyValue("Software\\Missing", "Value"));
+  for (const bool done : {true, false}) EXPECT_EQ(Registry.DeleteKeyValue(Settings, "Value"), done);
   EXPECT_FALSE(Registry.DeleteKey("Software", LocalMachine));
   EXPECT_TRUE(Registry.DeleteKey(Settings, LocalMachine));
 }
 
 TEST_F(ReghackTest, ListsStringValuesUpToTheEndOrNothing) {
   using registry::MoreData, registry::NoMoreItems, registry::Ok;
-  using Names = std::vector<std::string>;
-  const struct {
-    std::vector<long> Statuses;
-    Names Values, Keys;
-  } cases[] = {
-      {{NoMoreItems}, {}, {}},
-      // The second value is a number: it is left out and its index is used up.
-      {{Ok, Ok, MoreData, NoMoreItems}, {"N0", "N2"}, {"K0", "K1", "K2"}},
-      {{Ok, Ok, registry::AccessDenied, Ok}, {}, {}},
-  };
-  Names names{"left over"}, values{"left over"};
+  std::vector<std::string> names{"left over"}, values{"left over"};
   int count = 99;
-  for (const auto& each : cases) {
-    Store.Statuses = each.Statuses;
+  const auto listed = [&](const std::vector<long>& statuses) {
+    Store.Statuses = statuses;
+    std::string all;
     Registry.EnumSubValues(names, values, count, registry::LocalMachine);
-    EXPECT_EQ(names, each.Values);
-    EXPECT_EQ(values, Names(names.size(), "v\0"s));
-    EXPECT_EQ(names.size(), static_cast<std::size_t>(count));
+    for (std::size_t i = 0; i < names.size(); ++i) all += names[i] + "=" + values.at(i);
+    all += " " + std::to_string(count);
     Registry.EnumSubkeys(names, count, registry::LocalMachine);
-    EXPECT_EQ(names, each.Keys);
-    EXPECT_EQ(names.size(), static_cast<std::size_t>(count));
-  }
+    for (const std::string& name : names) all += " " + name;
+    return all + " " + std::to_string(count);
+  };
+  EXPECT_EQ(listed({NoMoreItems}), " 0 0");
+  // The second value is a number: it is left out and its index is used up.
+  EXPECT_EQ(listed({Ok, Ok, MoreData, NoMoreItems}), "N0=v\0N2=v\0 2 K0 K1 K2 3"s);
+  EXPECT_EQ(listed({Ok, Ok, registry::AccessDenied, Ok}), " 0 0");
   EXPECT_EQ(Yields, 2 * (1 + 4 + 3));
   Store.Statuses.assign(450, Ok);
   Store.Statuses.push_back(NoMoreItems);
