@@ -272,17 +272,5 @@ TEST_F(Computers, OfAUnitComeInCapitals) {
   EXPECT_EQ((Names{"WEB2", "WEB1"}), List());
 }
 
-TEST_F(Computers, OfTheLabFillABoxAndTheFirstIsChosen) {
-  modMain& main = Console.App.State();
-  ui::Form form{Host, "frmTest"};
-  ui::ComboBox box{form, "lstComputers"};
-  main.SaveSetting("OUPath", "LDAP://OU=Web,OU=Servers,DC=meridian,DC=example");
-  for (const auto& c : Cases("domains/Listings.txt")) {
-    main.SaveSetting("ComputerEnum", c[0]);
-    FillComputerList(main, c[1], box);
-    EXPECT_EQ(c[2] + " " + c[3], box.Text() + " " + std::to_string(box.Count())) << c[0] << c[1];
-  }
-}
-
 }  // namespace
 }  // namespace corvane::test
