@@ -1,6 +1,5 @@
 #include "adapters/lab/LabDirectoryApi.h"
 #include "adapters/lab/LabDirectoryProvider.h"
-#include "adapters/lab/LabEventLogs.h"
 #include "adapters/lab/LabNetX.h"
 #include "adapters/lab/LabServiceManager.h"
 #include "adapters/lab/LabUnitQuery.h"
@@ -68,18 +67,6 @@ TEST_F(LabPortsTest, UnitsAreSearchedByPathAndScope) {
   EXPECT_EQ(query.Containers("LDAP://DC1/OU=Servers,DC=north,DC=example").at(0).Path,
             "LDAP://DC1/OU=Web,OU=Servers,DC=north,DC=example");
   EXPECT_TRUE(query.Containers("LDAP://OU=Web,OU=Servers,DC=north,DC=example").empty());
-}
-
-TEST_F(LabPortsTest, LogsTellTheirCountersOnceTheyAreOpen) {
-  LabEventLogs logs(Network);
-  for (const auto& one : Cases("lab/Counters.txt")) {
-    const EventLogHandle handle = logs.Open(one[0], one[1]);
-    std::uint32_t first = 0, count = 0;
-    const bool isRead = logs.GetOldestRecord(handle, first) && logs.GetNumberOfRecords(handle, count);
-    EXPECT_EQ(isRead ? std::to_string(first) + "+" + std::to_string(count) : "none", one[2]) << one[0] << one[1];
-    logs.Close(handle);
-  }
-  EXPECT_EQ(logs.OpenHandles(), 0u);
 }
 
 TEST_F(LabPortsTest, AServiceIsPendingForItsTimeAndStaysInTheFile) {

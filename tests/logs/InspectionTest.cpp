@@ -51,6 +51,7 @@ TEST_F(CountersTest, ClassicLogsAndChannelsCountDifferently) {
 
 TEST_F(CountersTest, WhatCannotBeReadCountsNothing) {
   for (const char* computer : {"MERBACKUP", "NOSUCHPC"}) EXPECT_EQ("0 0", Read(computer));
+  EXPECT_EQ(Read("MERFILE01", "Application"), Read("MERFILE01", "DNS Server")) << "which it does not have";
   LabNetwork network(Console.Folder() / Installation::LabFile);
   FailingLogs logs(network);
   Platform ports = Replace(Console.Ports, {.EventLogs = &logs});
