@@ -119,7 +119,7 @@ TEST_F(LogEditTest, ACategoryAddsItsAlarmsInTreeOrder) {
   });
 }
 
-// The first alarm of a name gives the category of the key, whichever was picked.
+// The first alarm of a name gives the category of the key, whichever was picked; rows that name nothing add nothing.
 TEST_F(LogEditTest, TwoAlarmsOfOneNameAreOneToTheScreen) {
   Console.Rows(
       "INSERT INTO Alarms (Name, AlarmCategory, TypeMask, EventID, MatchEntireDescription, ThresholdCount, "
@@ -131,9 +131,12 @@ TEST_F(LogEditTest, TwoAlarmsOfOneNameAreOneToTheScreen) {
   WatchSystemLogOf("MERFILE01");
   Console.Rows(
       "INSERT INTO AlarmsForLogs (IDName, Domain, AlarmID) SELECT 'MERFILE012', 'MERIDIAN', MAX(AlarmID) FROM Alarms");
+  Console.Rows(ReadTextFile(CORVANE_SOURCE_DIR "/tests/logs/Attachments.txt"));
   OnMessage("AlarmTwice");
   Edit([&](frmLogEdit& form) {
     EXPECT_EQ("Disk Bad Block", Chosen(form.tvSelectedAlarms));
+    ASSERT_EQ(1, form.lvwActiveNotifications.Count());
+    EXPECT_EQ(Desk, form.lvwActiveNotifications.Item(0).Text);
     Save(form);
   });
   EXPECT_EQ("Disk and File System_2\n",
@@ -186,16 +189,6 @@ TEST_F(LogEditTest, NotificationsMoveUnderTheirRules) {
     EXPECT_EQ("2 chosen, 0 of 1", counts(form.cmdNotDown));
     attached.Select(0);
     EXPECT_EQ("2 chosen, 0 of 0", counts(form.cmdNotDown));
-  });
-}
-
-TEST_F(LogEditTest, AttachedRowsThatNameNothingAddNothing) {
-  WatchSystemLogOf("MERFILE01");
-  Console.Rows(ReadTextFile(CORVANE_SOURCE_DIR "/tests/logs/Attachments.txt"));
-  Edit([&](frmLogEdit& form) {
-    EXPECT_EQ("Disk Bad Block", Chosen(form.tvSelectedAlarms));
-    ASSERT_EQ(1, form.lvwActiveNotifications.Count());
-    EXPECT_EQ(Desk, form.lvwActiveNotifications.Item(0).Text);
   });
 }
 
