@@ -1,4 +1,5 @@
 #include "app/installation/TextFile.h"
+#include "support/Cases.h"
 #include "support/ConsoleTest.h"
 
 namespace corvane::test {
@@ -58,17 +59,14 @@ TEST_F(MainWindowTest, CountsWhatIsAttachedAndAFailingTableLeavesTheRows) {
 }
 
 TEST_F(MainWindowTest, StatisticsFillTheirCellsAndNoOthers) {
-  const char* const statistics[][2] = {
-      {"11_16_2026_0_0_7", "12"}, {"11_15_2026_13_59_0", "7"}, {"soon", "long"}, {"", ""}};
+  std::string expected = "|0 sec(s)||\n";
   for (int log = 1; log <= 5; ++log) Watch("MERA", log);
-  int log = 0;
-  for (const auto& [lastCheck, scanTime] : statistics)
-    SetStatistics("MERA" + std::to_string(++log), {{"LastCheck", lastCheck}, {"ScanTime", scanTime}});
+  for (const auto& c : Cases("console/Statistics.txt")) {
+    SetStatistics("MERA" + c[0], {{"LastCheck", c[1]}, {"ScanTime", c[2]}});
+    expected.insert(0, c[3] + "\n");
+  }
   Refresh();
-  EXPECT_EQ(
-      "12:00:07 AM|12 sec(s)|0000.0007|000012\n01:59:00 PM|7 sec(s)|0780.3540|000007\n|long sec(s)||\n|0 sec(s)||\n"
-      "|0 sec(s)||\n",
-      Shown({2, 3, 6, 7}));
+  EXPECT_EQ(expected, Shown({2, 3, 6, 7}));
   EXPECT_EQ(0, Window().lvwComputers.Columns[6].Width + Window().lvwComputers.Columns[7].Width);
 }
 
