@@ -3,7 +3,6 @@
 #include <QPushButton>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QTimer>
 #include <functional>
 #include <set>
 
@@ -26,43 +25,39 @@ namespace corvane::test {
 class FormsTest : public StartedConsole {
  protected:
   /// Every form of the console, shown one after the other; each page of its tabs in front in turn.
-  void ForEachForm(const std::function<void(ui::Form&)>& visit);
-  void ForEachPage(const std::function<void(ui::Form&)>& visit);
-};
-
-void FormsTest::ForEachForm(const std::function<void(ui::Form&)>& visit) {
-  frmBegin begin(State());
-  frmStartup splash(State()), about(State());
-  frmLogEdit editor(State());
-  frmLogView events(State());
-  frmDomainChooser domain(State());
-  frmComputerEnum computers(State());
-  frmCustomDomainManager mappings(State());
-  frmServiceAccount account(State());
-  frmControlService services(State(), [](Service) {});
-  SaveCustomMappings(State(), {{"192.0.2.77", "BRANCH"}, {"KIOSK1", "LOBBY"}, {"SCANNER2", "BRANCH"}});
-  State().IsNewLog = true;
-  for (ui::Form* form : std::initializer_list<ui::Form*>{&Main(), &begin, &splash, &about, &editor, &events, &domain,
-                                                         &computers, &mappings, &account, &services}) {
-    form->Load();
-    if (form == &about) about.SetAbout(true);
-    if (form == &services) services.InitForm();
-    if (form != &Main()) form->Show();
-    QTest::qWait(form == &editor || form == &events || form == &account ? 400 : 20);
-    visit(*form);
-  }
-}
-
-void FormsTest::ForEachPage(const std::function<void(ui::Form&)>& visit) {
-  ForEachForm([&](ui::Form& form) {
-    auto* tabs = Window(form).findChild<QTabWidget*>("tabMain");
-    for (int page = 0; page < (tabs != nullptr ? tabs->count() : 1); ++page) {
-      if (tabs != nullptr) tabs->setCurrentIndex(page);
-      QTest::qWait(10);
-      visit(form);
+  void ForEachForm(const std::function<void(ui::Form&)>& visit) {
+    frmBegin begin(State());
+    frmStartup splash(State()), about(State());
+    frmLogEdit editor(State());
+    frmLogView events(State());
+    frmDomainChooser domain(State());
+    frmComputerEnum computers(State());
+    frmCustomDomainManager mappings(State());
+    frmServiceAccount account(State());
+    frmControlService services(State(), [](Service) {});
+    SaveCustomMappings(State(), {{"192.0.2.77", "BRANCH"}, {"KIOSK1", "LOBBY"}, {"SCANNER2", "BRANCH"}});
+    State().IsNewLog = true;
+    for (ui::Form* form : std::initializer_list<ui::Form*>{&Main(), &begin, &splash, &about, &editor, &events, &domain,
+                                                           &computers, &mappings, &account, &services}) {
+      form->Load();
+      if (form == &about) about.SetAbout(true);
+      if (form == &services) services.InitForm();
+      if (form != &Main()) form->Show();
+      QTest::qWait(form == &editor || form == &events || form == &account ? 400 : 20);
+      visit(*form);
     }
-  });
-}
+  }
+  void ForEachPage(const std::function<void(ui::Form&)>& visit) {
+    ForEachForm([&](ui::Form& form) {
+      auto* tabs = Window(form).findChild<QTabWidget*>("tabMain");
+      for (int page = 0; page < (tabs != nullptr ? tabs->count() : 1); ++page) {
+        if (tabs != nullptr) tabs->setCurrentIndex(page);
+        QTest::qWait(10);
+        visit(form);
+      }
+    });
+  }
+};
 
 TEST_F(FormsTest, EveryControlHasItsWidgetAndEveryWidgetItsControl) {
   std::set<std::string> seen;
@@ -99,15 +94,6 @@ TEST_F(FormsTest, NoTextIsCutAndNoMnemonicGivenTwice) {
           << form.Name() << " " << widget->objectName().toStdString();
     }
   });
-}
-
-TEST_F(FormsTest, AboutGoesWithAClick) {
-  frmStartup about(State());
-  about.Load();
-  about.SetAbout(true);
-  QTimer::singleShot(50, qApp, [&] { ClickAt(Window(about), {300, 250}); });
-  about.ShowModal();
-  EXPECT_TRUE(about.IsUnloaded());
 }
 
 // Each screen has a page of its own, from wherever the focus is; the contents lead to it, and its picture is shown.

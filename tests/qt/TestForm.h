@@ -52,7 +52,6 @@ class frmMenus : public ui::Form {
   ui::MenuItem mnuFile{*this, "mnuFile", "&File"};
   ui::MenuItem mnuFileRefresh{mnuFile, "mnuFileRefresh", "&Refresh"};
   ui::MenuItem mnuPopup{*this, "mnuPopup", ""};
-  ui::MenuItem mnuPopupDelete{mnuPopup, "mnuPopupDelete", "&Delete"};
   ui::Toolbar tbrMain{*this, "tbrMain"};
 };
 
