@@ -31,6 +31,13 @@ class ItemViewsTest : public HostTest {
       if (item.Selected) rows += item.Text.substr(4) + " ";
     return rows + "focus " + std::to_string(form.lvwRows.FocusRow());
   }
+  // What the tree shows, from top to bottom.
+  std::string Nodes() {
+    std::string text;
+    for (QModelIndex at = Tree().model()->index(0, 0); at.isValid(); at = Tree().indexBelow(at))
+      text += at.data().toString().toStdString() + (at == Tree().currentIndex() ? "* " : " ");
+    return text;
+  }
 };
 
 TEST_F(ItemViewsTest, TheSelectionGoesBothWaysAndBeforeTheRightButton) {
@@ -87,7 +94,6 @@ TEST_F(ItemViewsTest, HeadersSortInTheModelAndMarkTheClickedColumn) {
 TEST_F(ItemViewsTest, ATreeFillsItsBranchesWhenTheUserOpensThem) {
   const ui::NodeId root = form.tvTree.Add(0, "root", "root", "os");
   form.tvTree.Add(root, "", "stand-in", "");
-  form.tvTree.Add(0, "other", "other", "os");
   std::string order;
   form.tvTree.Expand = [&](ui::NodeId node) {
     order += "expand ";
@@ -107,9 +113,8 @@ TEST_F(ItemViewsTest, ATreeFillsItsBranchesWhenTheUserOpensThem) {
     Serve();
   };
   clickExpander();
-  EXPECT_TRUE(Tree().isExpanded(index) && form.tvTree.Node(root).Expanded);
-  ASSERT_EQ(3, Tree().model()->rowCount(index));
-  EXPECT_EQ("b", Tree().model()->index(1, 0, index).data().toString());
+  EXPECT_TRUE(form.tvTree.Node(root).Expanded);
+  EXPECT_EQ("root* a b c ", Nodes());
   ClickRow(Tree(), 0);
   Key(form.tvTree, Qt::Key_Down);
   EXPECT_EQ(form.tvTree.Find("a"), form.tvTree.Selected());
@@ -124,23 +129,17 @@ TEST_F(ItemViewsTest, ATreeFollowsWhatItsFormDoesToIt) {
   form.tvTree.SetExpanded(root, true);
   form.tvTree.Select(form.tvTree.Find("b"));
   form.Show();
-  const auto shown = [&] {
-    std::string text;
-    for (QModelIndex at = Tree().model()->index(0, 0); at.isValid(); at = Tree().indexBelow(at))
-      text += at.data().toString().toStdString() + (at == Tree().currentIndex() ? "* " : " ");
-    return text;
-  };
-  EXPECT_EQ("root a b* c d ", shown());
+  EXPECT_EQ("root a b* c d ", Nodes());
   InHandler([&] {
     for (const char* gone : {"b", "d"}) form.tvTree.Remove(form.tvTree.Find(gone));
     form.tvTree.Add(root, "e", "e", "");
   });
-  EXPECT_EQ("root a c e ", shown());
+  EXPECT_EQ("root a c e ", Nodes());
   InHandler([&] {
     form.tvTree.Clear();
     form.tvTree.Add(0, "new", "new", "");
   });
-  EXPECT_EQ("new ", shown());
+  EXPECT_EQ("new ", Nodes());
 }
 
 TEST_F(ItemViewsTest, DraggingDropsOnNamedTargetsOnly) {
