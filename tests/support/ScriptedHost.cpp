@@ -69,19 +69,17 @@ void ScriptedHost::Drop(ui::Control& source, ui::Control& target) {
   Fire(target, target.DragDrop);
 }
 
+// A timer ticks as often as its interval fits into the time that passes.
 void ScriptedHost::Pass(int milliseconds) {
   const std::vector<ui::Form*> forms = shownForms_;
-  for (ui::Form* form : forms)
-    if (!form->IsUnloaded()) RunTimers(*form, milliseconds);
-}
-
-// A timer ticks as often as its interval fits into the time that passes.
-void ScriptedHost::RunTimers(ui::Form& form, int milliseconds) {
-  for (ui::Control* control : form.Controls()) {
-    if (control->Kind() != ui::ControlKind::Timer) continue;
-    const auto& timer = static_cast<ui::Timer&>(*control);
-    for (int left = milliseconds; timer.Enabled && timer.Interval > 0 && left >= timer.Interval; left -= timer.Interval)
-      Fire(timer, timer.Tick);
+  for (ui::Form* form : forms) {
+    if (form->IsUnloaded()) continue;
+    for (ui::Control* control : form->Controls()) {
+      const auto* timer = dynamic_cast<ui::Timer*>(control);
+      for (int left = milliseconds; timer && timer->Enabled && timer->Interval > 0 && left >= timer->Interval;
+           left -= timer->Interval)
+        Fire(*timer, timer->Tick);
+    }
   }
 }
 

@@ -34,14 +34,11 @@ class ScriptedHost : public ui::UiHost {
   ScriptedHost() { Title = "Corvane"; }
   ~ScriptedHost() override;
 
-  /// The next modal form: its name, and what the user does on it. The form must be unloaded when the script ends.
-  void OnModal(std::string name, std::function<void(ui::Form&)> script) {
-    modals_.emplace_back(std::move(name), std::move(script));
-  }
-  /// The same with the form's own class.
-  template <class T>
-  void OnModal(std::string name, std::function<void(T&)> script) {
-    OnModal(std::move(name), [script = std::move(script)](ui::Form& form) { script(dynamic_cast<T&>(form)); });
+  /// The next modal form: its name, and what the user does on it, which may ask for the form's own class. The form must
+  /// be unloaded when the script ends.
+  template <class T = ui::Form>
+  void OnModal(const std::string& name, std::type_identity_t<std::function<void(T&)>> script) {
+    modals_.emplace_back(name, [script = std::move(script)](ui::Form& form) { script(dynamic_cast<T&>(form)); });
   }
   /// The next box: its whole text and the answer.
   void OnBox(std::string text, ui::MsgResult answer = ui::MsgResult::Ok) { boxes_.emplace_back(text, answer); }
@@ -152,7 +149,6 @@ class ScriptedHost : public ui::UiHost {
     if (!control.Enabled || !control.Visible) ADD_FAILURE() << control.Name() << " is disabled or hidden";
     if (handler) handler(arguments...);
   }
-  void RunTimers(ui::Form& form, int milliseconds);
 
   Foreseen<std::function<void(ui::Form&)>> modals_;
   Foreseen<ui::MsgResult> boxes_;
