@@ -62,6 +62,7 @@ TEST_F(RegistryFileStoreTest, FindsNamesInAnyCaseAndKeepsTheirFirstSpelling) {
   EXPECT_EQ(Store.CreateKey(ClassesRoot, "http", CreateSubKey, None), Ok);
   EXPECT_EQ(Store.OpenKey(LocalMachine, "http", Read, None), NotFound);
   EXPECT_EQ(Store.OpenKey(0x80000001, "http", Read, None), InvalidHandle);
+  EXPECT_EQ(Store.Connect("\\\\SERVER1", LocalMachine, None), NetworkPathNotFound);
   EXPECT_EQ(Folder.Read("registry.reg"),
             "Corvane Registry Version 1.00\n\n[HKEY_LOCAL_MACHINE]\n\n[HKEY_LOCAL_MACHINE\\Software]\n\n"
             "[HKEY_LOCAL_MACHINE\\Software\\Corvane]\n\"Kept\"=\"0\"\n\"Größe\"=\"x\"\n\n"
@@ -100,21 +101,6 @@ TEST_F(RegistryFileStoreTest, ADeletedKeyAndAClosedHandleStayUnusable) {
   for (const long status : {Ok, InvalidHandle}) EXPECT_EQ(Store.CloseKey(Key), status);
   EXPECT_EQ(Query(Open("Software", Read), "Kept"), NotFound);
   EXPECT_EQ(Query(Key, "Kept"), InvalidHandle);
-}
-
-TEST_F(RegistryFileStoreTest, KeepsTheRegistriesOfOtherComputersApart) {
-  ASSERT_EQ(RegistryFileStore::Create(Folder.Path() / "SERVER1.reg"), Ok);
-  RegistryFileStore store(File, [&](const std::string& computer, fs::path& file) {
-    file = Folder.Path() / (computer + ".reg");
-    return Ok;
-  });
-  RegistryHandle remote;
-  ASSERT_EQ(store.Connect("\\\\SERVER1", LocalMachine, remote), Ok);
-  EXPECT_EQ(store.CreateKey(remote, "Only\\There", AllButLinks, None), Ok);
-  EXPECT_EQ(store.OpenKey(LocalMachine, "Only", Read, None), NotFound);
-  EXPECT_EQ(store.CloseKey(remote), Ok);
-  EXPECT_EQ(store.OpenKey(remote, "Only", Read, None), InvalidHandle);
-  EXPECT_EQ(Store.Connect("\\\\SERVER1", LocalMachine, remote), NetworkPathNotFound);
 }
 
 TEST_F(RegistryFileStoreTest, NeitherMakesNorReadsNorChangesWhatIsNoRegistry) {
