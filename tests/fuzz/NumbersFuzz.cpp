@@ -5,11 +5,14 @@
 #include "platform/Conversions.h"
 #include "platform/data/Value.h"
 
-namespace corvane::fuzz {
-namespace {
-
 // The C library reads the same grammar and more, and is right about the value.
-void CheckNumber(const std::string& text) {
+void corvane::fuzz::Try(const std::string& text) {
+  const std::string upper = UpperCase(text);
+  Require(upper.size() == text.size() && UpperCase(upper) == upper && SameText(text, upper));
+  double stored = 0;
+  if (text.size() >= sizeof stored) std::memcpy(&stored, text.data(), sizeof stored);
+  if (std::isfinite(stored)) Require(ParseNumber(ToText(stored)) == stored);
+
   const auto number = ParseNumber(text);
   Require(number.has_value() == IsNumeric(text));
   Require(!std::isnan(Val(text)) && Val(text) == Val(text + "x"));
@@ -21,16 +24,3 @@ void CheckNumber(const std::string& text) {
   Require(std::abs(*number - whole) <= 0.5 && TextToInt32(std::to_string(whole)) == whole);
   Require(ToNumber(text) == whole && ToBoolean(text) == (whole != 0));
 }
-
-}  // namespace
-
-void Try(const std::string& input) {
-  CheckNumber(input);
-  const std::string upper = UpperCase(input);
-  Require(upper.size() == input.size() && UpperCase(upper) == upper && SameText(input, upper));
-  double number = 0;
-  if (input.size() >= sizeof number) std::memcpy(&number, input.data(), sizeof number);
-  if (std::isfinite(number)) Require(ParseNumber(ToText(number)) == number);
-}
-
-}  // namespace corvane::fuzz
