@@ -20,15 +20,6 @@ inline void ClickAt(const QWidget& widget, QPoint place, Qt::KeyboardModifiers k
   QTest::mouseClick(widget.window()->windowHandle(), button, keys, place);
 }
 
-/// Drags from one place of a window to another.
-inline void Drag(const QWidget& widget, QPoint from, QPoint to) {
-  QWindow* window = widget.window()->windowHandle();
-  QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, from);
-  for (int step = 1; step <= 5; ++step) QTest::mouseMove(window, from + (to - from) * step / 5);
-  QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, to);
-  QTest::qWait(20);
-}
-
 /// The open help window.
 inline qt::HelpWindow& Help() {
   for (QWidget* window : QApplication::topLevelWidgets())
