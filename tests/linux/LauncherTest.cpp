@@ -16,11 +16,10 @@
 namespace corvane::test {
 
 namespace fs = std::filesystem;
-using Words = std::vector<std::string>;
 
 TEST(CommandLineTest, QuotesAndBackslashesFollowTheRulesOfWindows) {
   for (const auto& one : Cases("linux/CommandLines.txt"))
-    EXPECT_EQ(SplitCommandLine(one[0]), Words(one.begin() + 1, one.end())) << one[0];
+    EXPECT_EQ(SplitCommandLine(one[0]), std::vector<std::string>(one.begin() + 1, one.end())) << one[0];
 }
 
 class LauncherTest : public testing::Test {
