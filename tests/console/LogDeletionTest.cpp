@@ -69,7 +69,7 @@ TEST_F(LogDeletionTest, WithTheServiceStoppedRowsGoAtOnce) {
   EXPECT_EQ((std::vector<int>{0, 500, 0, 500}), Console.Data.LockWaits);
 }
 
-// A failing statement outside the loop stops nothing; a row whose log is not known is passed over.
+// A row whose log is not known is passed over as well.
 TEST_F(LogDeletionTest, FailuresArePassedOver) {
   Start({{"MERA", 1}, {"MERB", 9}, {"MERC", 3}}, false);
   Console.Data.Fails = [](const std::string& sql) {
