@@ -90,7 +90,8 @@ TEST_F(LogEditTest, WhatTheListDoesNotShowIsRefusedByTheStore) {
 
 // What stays after a failure at each statement: all that ran before it, and no stamp.
 TEST_F(LogEditTest, AnInsertThatFailsHalfWayLeavesWhatItWrote) {
-  const char* tables[] = {"RegisteredServers", "NotificationsForLogs", "DenyAlarmGroupsForLogs", "AlarmGroupsForLogs"};
+  const std::string tables[] = {"RegisteredServers", "NotificationsForLogs", "DenyAlarmGroupsForLogs",
+                                "AlarmGroupsForLogs"};
   Main.SaveSetting("LastDBUpdate", "untouched");
   for (int failing = 0; failing < 4; ++failing) {
     Add([&](frmLogEdit& form) {
@@ -103,8 +104,8 @@ TEST_F(LogEditTest, AnInsertThatFailsHalfWayLeavesWhatItWrote) {
       Console.Data.Fails = nullptr;
     });
     for (int i = 0; i < 4; ++i)
-      EXPECT_EQ(i < failing ? "1\n" : "0\n", Console.Rows(std::string("SELECT COUNT(*) FROM ") + tables[i] +
-                                                          " WHERE IDName LIKE 'PC" + std::to_string(failing) + "%'"))
+      EXPECT_EQ(i < failing ? "1\n" : "0\n", Console.Rows("SELECT COUNT(*) FROM " + tables[i] + " WHERE IDName = 'PC" +
+                                                          std::to_string(failing) + "1'"))
           << tables[i] << " after failure " << failing;
   }
   EXPECT_EQ("untouched", Console.Setting("LastDBUpdate"));
@@ -116,10 +117,7 @@ TEST_F(LogEditTest, AnUpdateThatFailsIsRepairedByTheNextOne) {
   const std::string before = Console.Rows(AllRows);
   for (int failing = 0; failing < 6; ++failing)
     Edit([&](frmLogEdit& form) {
-      Console.Data.Forget();
-      Console.Data.Fails = [count = failing](const std::string& sql) mutable {
-        return !sql.starts_with("SELECT") && count-- == 0;
-      };
+      Console.Data.FailAfter(failing, "MERFILE012");
       Save(form, "UpdateFailed");
       Console.Data.Fails = nullptr;
       EXPECT_EQ(failing == 0 ? "1\n" : "0\n", Console.Rows("SELECT COUNT(*) FROM AlarmsForLogs"));
