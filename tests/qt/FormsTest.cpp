@@ -69,6 +69,12 @@ TEST_F(FormsTest, EveryControlHasItsWidgetAndEveryWidgetItsControl) {
   for (const std::string& name : qt::FormRegistry::Console().Names()) EXPECT_EQ(1U, seen.count(name)) << name;
 }
 
+TEST_F(FormsTest, TheSplashHasItsSizeOnEveryScreen) {
+  frmStartup splash(State());
+  splash.Show();
+  EXPECT_EQ(QSize(600, 365), Window(splash).size());
+}
+
 // A widget is never smaller than its own text, and one letter stands for one thing on what is visible together.
 TEST_F(FormsTest, NoTextIsCutAndNoMnemonicGivenTwice) {
   ForEachPage([&](ui::Form& form) {
