@@ -10,7 +10,6 @@
 #include "support/ReplacedPorts.h"
 
 namespace corvane::test {
-namespace {
 
 using Lines = std::vector<std::string>;
 
@@ -96,5 +95,4 @@ TEST_F(ConfigDatabase, StampsEachFieldFromAReadingOfItsOwn) {
   EXPECT_EQ("2001-2-3-4-5-6", Console.Setting("LastDBUpdate"));
 }
 
-}  // namespace
 }  // namespace corvane::test

@@ -11,7 +11,6 @@
 #include "support/TempFolder.h"
 
 namespace corvane {
-namespace {
 
 using namespace std::string_literals;
 
@@ -177,5 +176,4 @@ TEST_F(PrivateProfileTest, CountsTheEqualsSignsWithinTheBuffer) {
   EXPECT_EQ(Profile.GetSectionSize("Alarms"), 297);
 }
 
-}  // namespace
 }  // namespace corvane

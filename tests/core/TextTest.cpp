@@ -10,7 +10,6 @@
 #include "support/ErrorOf.h"
 
 namespace corvane::test {
-namespace {
 
 TEST(SqlText, DoublesEveryApostropheAndKnowsNoEmptyText) {
   EXPECT_EQ("NULL ' '", QuoteSqlText("") + " " + QuoteSqlText(" "));
@@ -54,5 +53,4 @@ TEST(PassOver, PassesOverErrorsAloneNotTheEndOfTheProgram) {
   EXPECT_THROW(PassOver([] { throw ui::ProgramEnd{}; }), ui::ProgramEnd);
 }
 
-}  // namespace
 }  // namespace corvane::test
