@@ -14,7 +14,6 @@
 #include "support/ReplacedPorts.h"
 
 namespace corvane::test {
-namespace {
 
 using Names = std::vector<std::string>;
 
@@ -98,8 +97,7 @@ class ToldDirectory : public DirectoryApi {
 
  private:
   static std::string Raised(const std::string& answer) {
-    if (answer == "fail") throw RuntimeError(errors::AutomationError, "Automation error");
-    return answer;
+    return answer == "fail" ? throw RuntimeError(errors::AutomationError, "Automation error") : answer;
   }
 };
 
@@ -208,8 +206,7 @@ class ToldAccounts : public DirectoryProvider, public UnitQuery {
   std::vector<DirectoryContainer> Containers(const std::string&) override { return {}; }
 
   static Names Found(const Names& names) {
-    if (names.empty()) throw RuntimeError(errors::AutomationError, "Automation error");
-    return names;
+    return names.empty() ? throw RuntimeError(errors::AutomationError, "Automation error") : names;
   }
 
   std::vector<std::pair<std::string, long>> Accounts;
@@ -272,5 +269,4 @@ TEST_F(Computers, OfAUnitComeInCapitals) {
   EXPECT_EQ((Names{"WEB2", "WEB1"}), List());
 }
 
-}  // namespace
 }  // namespace corvane::test

@@ -10,7 +10,6 @@
 #include "support/ConsoleTest.h"
 
 namespace corvane::test {
-namespace {
 
 using ui::MsgResult;
 
@@ -149,5 +148,4 @@ TEST_F(DomainScreens, NothingIsLostWhereNothingCanBeWritten) {
   EXPECT_EQ("[General]\r\nNumComputers=2\r\n[Computers]\r\nComputer1=X|N\r\nComputer2=B|OLD\r\n", Mappings());
 }
 
-}  // namespace
 }  // namespace corvane::test
