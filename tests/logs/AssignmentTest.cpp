@@ -3,7 +3,6 @@
 #include "support/Cases.h"
 
 namespace corvane::test {
-namespace {
 
 TEST_F(LogEditTest, OpensForAddWithTheDomainsComputersAndTheFirstLog) {
   Host.OnModal<frmLogEdit>("frmLogEdit", [&](frmLogEdit& form) {
@@ -192,5 +191,4 @@ TEST_F(LogEditTest, NotificationsMoveUnderTheirRules) {
   });
 }
 
-}  // namespace
 }  // namespace corvane::test

@@ -8,7 +8,6 @@
 #include "support/ReplacedPorts.h"
 
 namespace corvane::test {
-namespace {
 
 // A classic log whose second reading can fail, which the lab's logs never do.
 class FailingLogs : public LabEventLogs {
@@ -118,5 +117,4 @@ TEST_F(PaneTest, ShowsStatisticsAsTheServiceLeftThem) {
   }
 }
 
-}  // namespace
 }  // namespace corvane::test

@@ -2,7 +2,6 @@
 #include "platform/RuntimeError.h"
 
 namespace corvane::test {
-namespace {
 
 // All rows that make up the watched logs.
 constexpr const char* AllRows =
@@ -151,5 +150,4 @@ TEST_F(LogEditTest, ErrorsOfTheSaveAreToldAndTheComputerGoesInAsItWasEntered) {
   EXPECT_EQ("1|MERIDIAN||1|0|0|1997|1\n", Console.Rows("SELECT * FROM RegisteredServers"));
 }
 
-}  // namespace
 }  // namespace corvane::test
