@@ -13,7 +13,6 @@
 #include "support/Switchboard.h"
 
 namespace corvane::test {
-namespace {
 
 // Notes what is to be started; a program without a name, or any when told so, is not found.
 class WitnessLauncher : public Launcher {
@@ -207,5 +206,4 @@ TEST_F(CommandsTest, ALinkStandsInItsPlaceOrBehindTheCommandOfTheBrowser) {
   open("");
 }
 
-}  // namespace
 }  // namespace corvane::test

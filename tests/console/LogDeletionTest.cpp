@@ -7,12 +7,11 @@
 #include "support/ConsoleTest.h"
 
 namespace corvane::test {
-namespace {
 
 constexpr const char* Attached[] = {"AlarmsForLogs", "NotificationsForLogs", "AlarmGroupsForLogs", "DenyAlarmsForLogs",
                                     "DenyAlarmGroupsForLogs"};
 
-bool IsUpdate(const std::string& sql) { return sql.starts_with("UPDATE"); }
+static bool IsUpdate(const std::string& sql) { return sql.starts_with("UPDATE"); }
 
 class LogDeletionTest : public ConsoleTest {
  protected:
@@ -162,5 +161,4 @@ TEST_F(LogDeletionTest, SyslogDevicesAreTakenOffTheList) {
   EXPECT_EQ("", remove({0, 1}, "2 syslog devices", ui::MsgResult::Yes));
 }
 
-}  // namespace
 }  // namespace corvane::test

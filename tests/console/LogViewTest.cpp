@@ -6,11 +6,10 @@
 #include "support/ConsoleTest.h"
 
 namespace corvane::test {
-namespace {
 
 constexpr const char* Target = "C:\\Corvane\\report.htm";
 
-std::string Repeat(int count, const std::string& text) {
+static std::string Repeat(int count, const std::string& text) {
   std::string all;
   while (count-- > 0) all += text;
   return all;
@@ -146,5 +145,4 @@ TEST(EventDateTest, ATimeIsReadInItsColumns) {
   for (const auto& one : Cases("console/EventDates.txt")) EXPECT_EQ(one[1], FixDate(one[0])) << one[0];
 }
 
-}  // namespace
 }  // namespace corvane::test

@@ -3,7 +3,6 @@
 #include "support/ConsoleTest.h"
 
 namespace corvane::test {
-namespace {
 
 class MainWindowTest : public ConsoleTest {
  protected:
@@ -131,5 +130,4 @@ TEST_F(MainWindowTest, CommandsFollowTheTabAndTheSelection) {
   EXPECT_EQ("++++++++++", enabled());
 }
 
-}  // namespace
 }  // namespace corvane::test

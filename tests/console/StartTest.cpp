@@ -11,7 +11,6 @@
 #include "support/ConsoleTest.h"
 
 namespace corvane::test {
-namespace {
 
 using Names = std::vector<std::string>;
 
@@ -195,5 +194,4 @@ TEST_F(Start, AnObjectThatCannotBeMadeEndsTheProgram) {
   EXPECT_TRUE(Host.Shown.empty());
 }
 
-}  // namespace
 }  // namespace corvane::test
