@@ -7,7 +7,6 @@
 #include "support/ReplacedPorts.h"
 
 namespace corvane::test {
-namespace {
 
 using Names = std::vector<std::string>;
 
@@ -110,5 +109,4 @@ TEST_F(ServiceAccount, IsSetInItsOrderAndEveryOutcomeIsTold) {
   EXPECT_EQ(all.npos, all.find("lantern")) << "a password is kept nowhere";
 }
 
-}  // namespace
 }  // namespace corvane::test
