@@ -6,7 +6,6 @@
 #include "support/ConsoleTest.h"
 
 namespace corvane::test {
-namespace {
 
 using namespace std::string_literals;
 
@@ -90,5 +89,4 @@ TEST_F(AlarmTreeTest, KeepsTheNodesAddedBeforeAFailure) {
   EXPECT_EQ(std::vector<ui::NodeId>{At("ALARMCAT\\2\\Elsewhere_2")}, Children(first));
 }
 
-}  // namespace
 }  // namespace corvane::test
