@@ -20,7 +20,6 @@ const std::string Mixed = ReadTextFile(CORVANE_SOURCE_DIR "/tests/console/Events
 
 class LogViewTest : public ConsoleTest {
  protected:
-  void SetLog(const std::string& text) { WriteTextFile(Log, text); }
   /// Opens the viewer; the script acts when the log has been read.
   void View(const std::function<void(frmLogView&)>& script) {
     Host.OnModal<frmLogView>("frmLogView", [&](frmLogView& form) {
@@ -45,7 +44,7 @@ class LogViewTest : public ConsoleTest {
 };
 
 TEST_F(LogViewTest, TheBoxesChooseWhatIsListed) {
-  SetLog(Mixed);
+  WriteTextFile(Log, Mixed);
   View([&](frmLogView& form) {
     EXPECT_EQ(form.fraEvents.Caption, "&Event Log Entries Logged By the Corvane Service Since 11/1/2026 08:00:00");
     EXPECT_EQ(form.lvEvents.SelectedRow(), 0);
@@ -82,7 +81,7 @@ TEST_F(LogViewTest, EachRefreshShowsWhatTheLogHolds) {
   const std::string none = "none";
   for (const auto& [text, rows] :
        {std::pair(Mixed, 3), {none, 0}, {none, 0}, {Mixed, 3}, {"", 0}, {"?\n" + Mixed, 3}}) {
-    SetLog(text);
+    WriteTextFile(Log, text);
     if (text == none) {
       std::filesystem::remove(Log);
       OnMessage("NoApplicationLog");
@@ -96,7 +95,7 @@ TEST_F(LogViewTest, EachRefreshShowsWhatTheLogHolds) {
 }
 
 TEST_F(LogViewTest, TheViewerMayBeClosedWhileItWorks) {
-  SetLog(Repeat(1000, Mixed));
+  WriteTextFile(Log, Repeat(1000, Mixed));
   const auto close = [&] {
     Host.OnDoEvents([&] {
       const auto& form = dynamic_cast<const frmLogView&>(Host.Top());
@@ -124,7 +123,7 @@ TEST_F(LogViewTest, TheReportIsRightToTheByte) {
     golden += c == '\n' ? "\r\n" : std::string(1, c);
   const std::size_t first = golden.find("<TR BGCOLOR=#C0C0C0>"), footer = golden.rfind("</TABLE>");
   for (const int times : {1, 3334}) {
-    SetLog(Repeat(times, Mixed));
+    WriteTextFile(Log, Repeat(times, Mixed));
     View([&](frmLogView& form) {
       Export(form, std::nullopt);
       Export(form, "C:\\Corvane\\none\\report.htm");
