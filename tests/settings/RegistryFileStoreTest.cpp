@@ -149,6 +149,15 @@ TEST_F(RegistryFileStoreTest, AWriterKilledAtAnyMomentLeavesTheStateBeforeOrAfte
   ExpectUntouched(Folder.Read("registry.reg"));
 }
 
+TEST_F(RegistryFileStoreTest, KeepsTheModeOfTheFileAndALinkToIt) {
+  fs::permissions(File, fs::perms{0640});
+  const fs::path link = Folder.Path() / "link.reg";
+  fs::create_symlink("registry.reg", link);
+  EXPECT_EQ(RegistryFileStore(link).CreateKey(LocalMachine, "New", AllButLinks, None), Ok);
+  EXPECT_EQ(Store.OpenKey(LocalMachine, "New", Read, None), Ok);
+  EXPECT_TRUE(fs::is_symlink(link) && fs::status(File).permissions() == fs::perms{0640});
+}
+
 TEST_F(RegistryFileStoreTest, WhatCannotBeWrittenIsRefusedAndNothingChanges) {
   const std::string before = Folder.Read("registry.reg");
   const auto write = [&] {
@@ -166,16 +175,6 @@ TEST_F(RegistryFileStoreTest, WhatCannotBeWrittenIsRefusedAndNothingChanges) {
   EXPECT_EQ(write(), Busy);
   ::close(held);
   EXPECT_EQ(Set("Kept", "2"), Ok);
-}
-
-TEST_F(RegistryFileStoreTest, KeepsTheModeOfTheFileAndALinkToIt) {
-  fs::permissions(File, fs::perms{0640});
-  const fs::path link = Folder.Path() / "link.reg";
-  fs::create_symlink("registry.reg", link);
-  EXPECT_EQ(RegistryFileStore(link).CreateKey(LocalMachine, "New", AllButLinks, None), Ok);
-  EXPECT_TRUE(fs::is_symlink(link));
-  EXPECT_EQ(Store.OpenKey(LocalMachine, "New", Read, None), Ok);
-  EXPECT_EQ(fs::status(File).permissions(), fs::perms{0640});
 }
 
 }  // namespace corvane::test
