@@ -38,8 +38,7 @@ TEST_F(ConfigDatabase, MakesDataFilesButNeverReplacesOne) {
   EXPECT_FALSE(CreateAccessDatabase(Main, "C:\\Corvane\\events.db"));
 }
 
-class UndeletableFiles : public LinuxFiles {
- public:
+struct UndeletableFiles : LinuxFiles {
   using LinuxFiles::LinuxFiles;
   void Delete(const std::string&) override { throw RuntimeError(errors::PermissionDenied, "Permission denied"); }
 };
