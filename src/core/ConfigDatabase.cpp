@@ -1,6 +1,9 @@
 #include "core/ConfigDatabase.h"
 
+#include <initializer_list>
+
 #include "core/PassOver.h"
+#include "core/SqlText.h"
 #include "core/modMain.h"
 #include "platform/Files.h"
 #include "platform/System.h"
@@ -30,6 +33,20 @@ UpdateEnd RunUpdateLines(LineReader& file, Connection& connection) {
     PassOver([&] { connection.Execute(line); });
   }
   return UpdateEnd::EndOfFile;
+}
+
+void DeleteAttachments(modMain& main, std::initializer_list<const char*> tables, const std::string& idName,
+                       const std::string& domain, OnFailure failure) {
+  for (const char* table : tables) {
+    const auto remove = [&] {
+      main.ConfigConnection->Execute(std::string("DELETE FROM ") + table + " WHERE IDName = " + QuoteSqlText(idName) +
+                                     " AND [Domain] = " + QuoteSqlText(domain));
+    };
+    if (failure == OnFailure::Raise)
+      remove();
+    else
+      PassOver(remove);
+  }
 }
 
 }  // namespace
@@ -80,19 +97,12 @@ void StampLastDBUpdate(modMain& main) {
   main.SaveSetting("LastDBUpdate", stamp);
 }
 
-void DeleteAttachments(modMain& main, const char* table, const std::string& idName, const std::string& domain) {
-  main.ConfigConnection->Execute(std::string("DELETE FROM ") + table + " WHERE IDName = '" + idName +
-                                 "' AND [Domain] = '" + domain + "'");
+void DeleteAlarmsAndNots(modMain& main, const std::string& idName, const std::string& domain, OnFailure failure) {
+  DeleteAttachments(main, {"AlarmsForLogs", "NotificationsForLogs", "AlarmGroupsForLogs"}, idName, domain, failure);
 }
 
-void DeleteAlarmsAndNots(modMain& main, const std::string& idName, const std::string& domain) {
-  for (const char* table : {"AlarmsForLogs", "NotificationsForLogs", "AlarmGroupsForLogs"})
-    DeleteAttachments(main, table, idName, domain);
-}
-
-void DeleteDenyAlarms(modMain& main, const std::string& idName, const std::string& domain) {
-  for (const char* table : {"DenyAlarmsForLogs", "DenyAlarmGroupsForLogs"})
-    DeleteAttachments(main, table, idName, domain);
+void DeleteDenyAlarms(modMain& main, const std::string& idName, const std::string& domain, OnFailure failure) {
+  DeleteAttachments(main, {"DenyAlarmsForLogs", "DenyAlarmGroupsForLogs"}, idName, domain, failure);
 }
 
 }  // namespace corvane

@@ -25,11 +25,14 @@ void ApplyConfigUpdate(modMain& main);
 /// Tells the monitoring service that the configuration has changed.
 void StampLastDBUpdate(modMain& main);
 
-/// Deletes the rows of one table that are attached to a log.
-void DeleteAttachments(modMain& main, const char* table, const std::string& idName, const std::string& domain);
-/// Deletes the alarms, bundles and notifications attached to a log. Raises at the first statement that fails.
-void DeleteAlarmsAndNots(modMain& main, const std::string& idName, const std::string& domain);
-/// Deletes the ignore events and bundles of ignore events attached to a log. Raises at the first failure.
-void DeleteDenyAlarms(modMain& main, const std::string& idName, const std::string& domain);
+/// What a routine of several statements does when one of them fails.
+enum class OnFailure { Raise, GoOn };
+
+/// Deletes the alarms, notifications and bundles attached to a log, table by table.
+void DeleteAlarmsAndNots(modMain& main, const std::string& idName, const std::string& domain,
+                         OnFailure failure = OnFailure::Raise);
+/// Deletes the ignore events and bundles of ignore events attached to a log, table by table.
+void DeleteDenyAlarms(modMain& main, const std::string& idName, const std::string& domain,
+                      OnFailure failure = OnFailure::Raise);
 
 }  // namespace corvane

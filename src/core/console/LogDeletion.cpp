@@ -31,9 +31,8 @@ class Deletion {
   }
 
   void RemoveAttachments(const std::string& idName) {
-    for (const char* table :
-         {"AlarmsForLogs", "NotificationsForLogs", "AlarmGroupsForLogs", "DenyAlarmsForLogs", "DenyAlarmGroupsForLogs"})
-      PassOver([&] { DeleteAttachments(main_, table, idName, domain_); });
+    DeleteAlarmsAndNots(main_, idName, domain_, OnFailure::GoOn);
+    DeleteDenyAlarms(main_, idName, domain_, OnFailure::GoOn);
   }
 
  private:
