@@ -21,8 +21,8 @@ class IdleHost : public ui::UiHost {
   ui::MsgResult MsgBox(const std::string& text, ui::MsgIcon icon, ui::MsgButtons buttons,
                        const std::string& title) override;
   std::optional<std::string> SaveFile(const ui::SaveDialog&) override { return std::nullopt; }
-  std::optional<ui::Container> ChooseContainer(const std::string&, const ui::Container&,
-                                               const ui::ContainersOf&) override {
+  std::optional<DirectoryContainer> ChooseContainer(const std::string&, const DirectoryContainer&,
+                                                    const ui::ContainersOf&) override {
     return std::nullopt;
   }
   void SetClipboardText(const std::string&) override {}

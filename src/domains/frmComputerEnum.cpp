@@ -78,12 +78,7 @@ void frmComputerEnum::cmdBrowse_Click() {
 }
 
 void frmComputerEnum::ChooseUnit() {
-  const auto containersOf = [this](const std::string& path) {
-    std::vector<ui::Container> containers;
-    for (DirectoryContainer& one : main_.Platform.Units.Containers(path))
-      containers.push_back({std::move(one.Name), std::move(one.Path)});
-    return containers;
-  };
+  const auto containersOf = [this](const std::string& path) { return main_.Platform.Units.Containers(path); };
   const auto chosen = main_.Ui.ChooseContainer(main_.Ui.Title, {domain_, "LDAP://" + domain_}, containersOf);
   txtOU.Text = chosen ? chosen->Name : "";
   unitPath_ = chosen ? chosen->Path : "";

@@ -65,7 +65,7 @@ TEST_F(DomainScreens, ADefaultDomainIsSavedByItsFlatNameInCapitals) {
 TEST_F(DomainScreens, AUnitThatWasChosenGivesItsComputers) {
   Prepare(6, "MERIDIAN");
   OnMessage("NoUnit");
-  Host.OnChooseContainer([](const ui::Container& root, const ui::ContainersOf& containersOf) {
+  Host.OnChooseContainer([](const DirectoryContainer& root, const ui::ContainersOf& containersOf) {
     return containersOf(containersOf(root.Path).at(2).Path).at(2);
   });
   frmComputerEnum form(Main);

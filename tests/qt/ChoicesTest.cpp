@@ -60,11 +60,11 @@ TEST_F(HostTest, ABoxRefusesCharactersHoweverTheyCome) {
 TEST_F(HostTest, AContainerIsChosenFromItsTree) {
   bool broken = true;
   std::string asked;
-  const ui::ContainersOf containers = [&](const std::string& path) -> std::vector<ui::Container> {
+  const ui::ContainersOf containers = [&](const std::string& path) -> std::vector<DirectoryContainer> {
     asked += path + " ";
     if (path == "/a" && std::exchange(broken, false)) throw RuntimeError(errors::AutomationError, "No answer");
     if (path == "/") return {{"A", "/a"}, {"B", "/b"}};
-    return path == "/a" ? std::vector<ui::Container>{{"C", "/a/c"}} : std::vector<ui::Container>{};
+    return path == "/a" ? std::vector<DirectoryContainer>{{"C", "/a/c"}} : std::vector<DirectoryContainer>{};
   };
   const auto choose = [&](auto act) {
     Soon([act] {

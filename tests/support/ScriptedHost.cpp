@@ -107,8 +107,9 @@ std::optional<std::string> ScriptedHost::SaveFile(const ui::SaveDialog& dialog) 
   return Next(files_, dialog.Title).value_or(std::nullopt);
 }
 
-std::optional<ui::Container> ScriptedHost::ChooseContainer(const std::string& title, const ui::Container& root,
-                                                           const ui::ContainersOf& containersOf) {
+std::optional<DirectoryContainer> ScriptedHost::ChooseContainer(const std::string& title,
+                                                                const DirectoryContainer& root,
+                                                                const ui::ContainersOf& containersOf) {
   const auto script = Next(containers_, title);
   return script ? (*script)(root, containersOf) : std::nullopt;
 }

@@ -45,7 +45,8 @@ class ScriptedHost : public ui::UiHost {
   /// The next dialog that asks for a file's name, and the path that is given; nothing for Cancel.
   void OnSaveFile(std::optional<std::string> path) { files_.emplace_back("", std::move(path)); }
   /// The next choice of a container: a script gets the root and the reader of its tree, and chooses.
-  using ContainerScript = std::function<std::optional<ui::Container>(const ui::Container&, const ui::ContainersOf&)>;
+  using ContainerScript =
+      std::function<std::optional<DirectoryContainer>(const DirectoryContainer&, const ui::ContainersOf&)>;
   void OnChooseContainer(ContainerScript script) { containers_.emplace_back("", std::move(script)); }
   /// What is run at the next call of `DoEvents`: the user acting meanwhile.
   void OnDoEvents(std::function<void()> action) { duringEvents_.emplace_back("", std::move(action)); }
@@ -103,8 +104,8 @@ class ScriptedHost : public ui::UiHost {
   ui::MsgResult MsgBox(const std::string& text, ui::MsgIcon icon, ui::MsgButtons buttons,
                        const std::string& title) override;
   std::optional<std::string> SaveFile(const ui::SaveDialog& dialog) override;
-  std::optional<ui::Container> ChooseContainer(const std::string& title, const ui::Container& root,
-                                               const ui::ContainersOf& containersOf) override;
+  std::optional<DirectoryContainer> ChooseContainer(const std::string& title, const DirectoryContainer& root,
+                                                    const ui::ContainersOf& containersOf) override;
   void SetClipboardText(const std::string& text) override { Clipboard = text; }
   void Beep() override { ++Beeps; }
   void PopupMenu(ui::MenuItem& menu) override { Popups.push_back(&menu); }

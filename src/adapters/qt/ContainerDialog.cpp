@@ -18,7 +18,8 @@ constexpr int FilledRole = Qt::UserRole + 1;
 
 }  // namespace
 
-ContainerDialog::ContainerDialog(const std::string& title, const ui::Container& root, ui::ContainersOf containersOf)
+ContainerDialog::ContainerDialog(const std::string& title, const DirectoryContainer& root,
+                                 ui::ContainersOf containersOf)
     : containersOf_(std::move(containersOf)), tree_(new QTreeWidget) {
   setObjectName("ContainerDialog");
   setWindowTitle(ToQt(title));
@@ -45,7 +46,7 @@ ContainerDialog::ContainerDialog(const std::string& title, const ui::Container& 
   resize(420, 420);
 }
 
-void ContainerDialog::Add(QTreeWidgetItem& item, const ui::Container& container) {
+void ContainerDialog::Add(QTreeWidgetItem& item, const DirectoryContainer& container) {
   item.setText(0, ToQt(container.Name));
   item.setData(0, PathRole, ToQt(container.Path));
   item.setIcon(0, icons::Get("alarmcat"));
@@ -58,7 +59,7 @@ void ContainerDialog::Fill(QTreeWidgetItem& item) {
   qDeleteAll(item.takeChildren());
   try {
     const auto containers = containersOf_(FromQt(item.data(0, PathRole).toString()));
-    for (const ui::Container& container : containers) Add(*new QTreeWidgetItem(&item), container);
+    for (const DirectoryContainer& container : containers) Add(*new QTreeWidgetItem(&item), container);
     item.setData(0, FilledRole, true);
     if (containers.empty()) item.setChildIndicatorPolicy(QTreeWidgetItem::DontShowIndicator);
   } catch (const RuntimeError& error) {
@@ -67,10 +68,10 @@ void ContainerDialog::Fill(QTreeWidgetItem& item) {
   }
 }
 
-std::optional<ui::Container> ContainerDialog::Chosen() const {
+std::optional<DirectoryContainer> ContainerDialog::Chosen() const {
   const auto selected = tree_->selectedItems();
   if (result() != Accepted || selected.isEmpty()) return std::nullopt;
-  return ui::Container{FromQt(selected.first()->text(0)), FromQt(selected.first()->data(0, PathRole).toString())};
+  return DirectoryContainer{FromQt(selected.first()->text(0)), FromQt(selected.first()->data(0, PathRole).toString())};
 }
 
 }  // namespace corvane::qt

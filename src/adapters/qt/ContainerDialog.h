@@ -13,13 +13,13 @@ namespace corvane::qt {
 /// Shows a tree of containers, branch by branch as they are opened, and takes the choice of one.
 class ContainerDialog : public QDialog {
  public:
-  ContainerDialog(const std::string& title, const ui::Container& root, ui::ContainersOf containersOf);
+  ContainerDialog(const std::string& title, const DirectoryContainer& root, ui::ContainersOf containersOf);
 
   /// What was chosen with OK; nothing after Cancel.
-  std::optional<ui::Container> Chosen() const;
+  std::optional<DirectoryContainer> Chosen() const;
 
  private:
-  void Add(QTreeWidgetItem& item, const ui::Container& container);
+  void Add(QTreeWidgetItem& item, const DirectoryContainer& container);
   void Fill(QTreeWidgetItem& item);
 
   ui::ContainersOf containersOf_;

@@ -206,8 +206,8 @@ std::optional<std::string> QtHost::SaveFile(const ui::SaveDialog& dialog) {
   return path;
 }
 
-std::optional<ui::Container> QtHost::ChooseContainer(const std::string& title, const ui::Container& root,
-                                                     const ui::ContainersOf& containersOf) {
+std::optional<DirectoryContainer> QtHost::ChooseContainer(const std::string& title, const DirectoryContainer& root,
+                                                          const ui::ContainersOf& containersOf) {
   dispatcher_.Rethrow();
   Flush();
   ContainerDialog dialog(title, root, containersOf);

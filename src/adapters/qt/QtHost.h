@@ -36,8 +36,8 @@ class QtHost : public ui::UiHost {
   ui::MsgResult MsgBox(const std::string& text, ui::MsgIcon icon, ui::MsgButtons buttons,
                        const std::string& title) override;
   std::optional<std::string> SaveFile(const ui::SaveDialog& dialog) override;
-  std::optional<ui::Container> ChooseContainer(const std::string& title, const ui::Container& root,
-                                               const ui::ContainersOf& containersOf) override;
+  std::optional<DirectoryContainer> ChooseContainer(const std::string& title, const DirectoryContainer& root,
+                                                    const ui::ContainersOf& containersOf) override;
   void SetClipboardText(const std::string& text) override;
   void Beep() override;
   void PopupMenu(ui::MenuItem& menu) override;

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/DirectoryProvider.h"
 #include "platform/ui/Control.h"
 
 namespace corvane::ui {
@@ -25,14 +26,8 @@ struct SaveDialog {
   std::string FileName;
 };
 
-/// An entry of a tree of containers: what it is called, and the path that tells it.
-struct Container {
-  std::string Name;
-  std::string Path;
-};
-
 /// The containers directly within that of a path. Raises when they cannot be read.
-using ContainersOf = std::function<std::vector<Container>(const std::string& path)>;
+using ContainersOf = std::function<std::vector<DirectoryContainer>(const std::string& path)>;
 
 /// Thrown by `EndProgram` through every handler and loop up to the program's start. It is no error and derives from
 /// nothing, so that code which passes over errors does not stop it.
@@ -67,8 +62,8 @@ class UiHost {
   virtual std::optional<std::string> SaveFile(const SaveDialog& dialog) = 0;
   /// Lets the user choose a container below `root`, whose tree is read as its branches are opened. Nothing when the
   /// user cancels. What cannot be read is told in the dialog.
-  virtual std::optional<Container> ChooseContainer(const std::string& title, const Container& root,
-                                                   const ContainersOf& containersOf) = 0;
+  virtual std::optional<DirectoryContainer> ChooseContainer(const std::string& title, const DirectoryContainer& root,
+                                                            const ContainersOf& containersOf) = 0;
   virtual void SetClipboardText(const std::string& text) = 0;
   virtual void Beep() = 0;
   /// Opens a menu at the pointer and runs what is chosen.
