@@ -21,6 +21,7 @@ class IdleHost : public ui::UiHost {
   ui::MsgResult MsgBox(const std::string& text, ui::MsgIcon icon, ui::MsgButtons buttons,
                        const std::string& title) override;
   std::optional<std::string> SaveFile(const ui::SaveDialog&) override { return std::nullopt; }
+  std::optional<std::string> OpenFile(const ui::OpenDialog&) override { return std::nullopt; }
   std::optional<DirectoryContainer> ChooseContainer(const std::string&, const DirectoryContainer&,
                                                     const ui::ContainersOf&) override {
     return std::nullopt;

@@ -9,6 +9,7 @@ ScriptedHost::~ScriptedHost() {
   tellLeft(modals_, "");
   tellLeft(boxes_, "");
   tellLeft(files_, "a choice of a file");
+  tellLeft(opened_, "a choice of a file to read");
   tellLeft(containers_, "a choice of a container");
   tellLeft(duringEvents_, "a time to serve events");
 }
@@ -38,8 +39,13 @@ void ScriptedHost::Choose(ui::OptionButton& option) {
 
 void ScriptedHost::Type(ui::TextBox& box, const std::string& text) {
   if (box.Locked) ADD_FAILURE() << box.Name() << " is locked";
-  for (const char character : text)
-    if (!box.KeyPress || box.KeyPress(static_cast<unsigned char>(character))) box.Text += character;
+  for (const char character : text) {
+    const bool fits = box.MaxLength == 0 || static_cast<int>(box.Text.size()) < box.MaxLength;
+    if (!fits || (box.KeyPress && !box.KeyPress(static_cast<unsigned char>(character)))) continue;
+    box.Text += character;
+    box.SelStart = static_cast<int>(box.Text.size());
+    Fire(box, box.Change);
+  }
   Fire(box, ui::Handler());
 }
 
@@ -60,6 +66,16 @@ void ScriptedHost::ClickNode(ui::TreeView& tree, ui::NodeId node) {
   Focus(tree);
   tree.Select(node);
   Fire(tree, tree.NodeClick, node);
+}
+
+void ScriptedHost::EditLabel(ui::TreeView& tree, const std::string& text) {
+  if (tree.EditedNode() == 0) ADD_FAILURE() << tree.Name() << " lets no text be changed";
+  Fire(tree, ui::Handler([&] { tree.EndLabelEdit(text); }));
+}
+
+void ScriptedHost::ClickAt(ui::TextBox& box, int caret) {
+  box.SelStart = caret;
+  Fire(box, box.Click);
 }
 
 void ScriptedHost::Drop(ui::Control& source, ui::Control& target) {
@@ -105,6 +121,10 @@ ui::MsgResult ScriptedHost::MsgBox(const std::string& text, ui::MsgIcon icon, ui
 std::optional<std::string> ScriptedHost::SaveFile(const ui::SaveDialog& dialog) {
   SaveDialogs.push_back(dialog);
   return Next(files_, dialog.Title).value_or(std::nullopt);
+}
+
+std::optional<std::string> ScriptedHost::OpenFile(const ui::OpenDialog& dialog) {
+  return Next(opened_, dialog.Title).value_or(std::nullopt);
 }
 
 std::optional<DirectoryContainer> ScriptedHost::ChooseContainer(const std::string& title,

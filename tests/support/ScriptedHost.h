@@ -44,6 +44,8 @@ class ScriptedHost : public ui::UiHost {
   void OnBox(std::string text, ui::MsgResult answer = ui::MsgResult::Ok) { boxes_.emplace_back(text, answer); }
   /// The next dialog that asks for a file's name, and the path that is given; nothing for Cancel.
   void OnSaveFile(std::optional<std::string> path) { files_.emplace_back("", std::move(path)); }
+  /// The same for a file to read.
+  void OnOpenFile(std::optional<std::string> path) { opened_.emplace_back("", std::move(path)); }
   /// The next choice of a container: a script gets the root and the reader of its tree, and chooses.
   using ContainerScript =
       std::function<std::optional<DirectoryContainer>(const DirectoryContainer&, const ui::ContainersOf&)>;
@@ -87,6 +89,14 @@ class ScriptedHost : public ui::UiHost {
     tree.SetExpanded(node, false);
     Fire(tree, tree.Collapse, node);
   }
+  /// Changes the text of the node whose text may be changed now.
+  void EditLabel(ui::TreeView& tree, const std::string& text);
+  void DoubleClick(ui::TreeView& tree, ui::NodeId node) {
+    ClickNode(tree, node);
+    Fire(tree, tree.DblClick);
+  }
+  /// Puts the caret into a text box by a click.
+  void ClickAt(ui::TextBox& box, int caret);
   void Drop(ui::Control& source, ui::Control& target);
 
   /// The form shown last.
@@ -104,6 +114,7 @@ class ScriptedHost : public ui::UiHost {
   ui::MsgResult MsgBox(const std::string& text, ui::MsgIcon icon, ui::MsgButtons buttons,
                        const std::string& title) override;
   std::optional<std::string> SaveFile(const ui::SaveDialog& dialog) override;
+  std::optional<std::string> OpenFile(const ui::OpenDialog& dialog) override;
   std::optional<DirectoryContainer> ChooseContainer(const std::string& title, const DirectoryContainer& root,
                                                     const ui::ContainersOf& containersOf) override;
   void SetClipboardText(const std::string& text) override { Clipboard = text; }
@@ -153,7 +164,7 @@ class ScriptedHost : public ui::UiHost {
 
   Foreseen<std::function<void(ui::Form&)>> modals_;
   Foreseen<ui::MsgResult> boxes_;
-  Foreseen<std::optional<std::string>> files_;
+  Foreseen<std::optional<std::string>> files_, opened_;
   Foreseen<ContainerScript> containers_;
   Foreseen<std::function<void()>> duringEvents_;
   std::vector<ui::Form*> shownForms_;

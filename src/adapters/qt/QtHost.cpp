@@ -53,6 +53,8 @@ std::vector<Answer> AnswersOf(ui::MsgButtons buttons) {
   return {{QMessageBox::Ok, ui::MsgResult::Ok}};
 }
 
+QString FirstFolder() { return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation); }
+
 }  // namespace
 
 QtHost::QtHost(FormRegistry forms, std::string helpFolder)
@@ -189,21 +191,32 @@ void QtHost::RunDialog(QDialog& dialog) {
 }
 
 // The toolkit's own dialog: one of the desktop would run its loop beyond the reach of the host.
-std::optional<std::string> QtHost::SaveFile(const ui::SaveDialog& dialog) {
+std::optional<std::string> QtHost::ChosenFile(QFileDialog& chooser) {
   dispatcher_.Rethrow();
   Flush();
-  QFileDialog chooser(nullptr, ToQt(dialog.Title), QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
-                      ToQt(dialog.Filter));
-  chooser.setObjectName("SaveDialog");
   chooser.setOption(QFileDialog::DontUseNativeDialog);
-  chooser.setAcceptMode(QFileDialog::AcceptSave);
-  chooser.setDefaultSuffix(ToQt(dialog.Pattern).section('.', -1));
-  chooser.selectFile(ToQt(dialog.FileName));
   RunDialog(chooser);
   if (chooser.result() != QDialog::Accepted || chooser.selectedFiles().isEmpty()) return std::nullopt;
   std::string path = FromQt(chooser.selectedFiles().first());
   std::replace(path.begin(), path.end(), '/', '\\');
   return path;
+}
+
+std::optional<std::string> QtHost::SaveFile(const ui::SaveDialog& dialog) {
+  QFileDialog chooser(nullptr, ToQt(dialog.Title), FirstFolder(), ToQt(dialog.Filter));
+  chooser.setObjectName("SaveDialog");
+  chooser.setAcceptMode(QFileDialog::AcceptSave);
+  chooser.setDefaultSuffix(ToQt(dialog.Pattern).section('.', -1));
+  chooser.selectFile(ToQt(dialog.FileName));
+  return ChosenFile(chooser);
+}
+
+std::optional<std::string> QtHost::OpenFile(const ui::OpenDialog& dialog) {
+  QFileDialog chooser(nullptr, ToQt(dialog.Title), FirstFolder(), ToQt(dialog.Filter));
+  chooser.setObjectName("OpenDialog");
+  chooser.setAcceptMode(QFileDialog::AcceptOpen);
+  chooser.setFileMode(QFileDialog::ExistingFile);
+  return ChosenFile(chooser);
 }
 
 std::optional<DirectoryContainer> QtHost::ChooseContainer(const std::string& title, const DirectoryContainer& root,

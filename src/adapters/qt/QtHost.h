@@ -12,6 +12,7 @@
 #include "platform/ui/UiHost.h"
 
 class QDialog;
+class QFileDialog;
 
 namespace corvane::qt {
 
@@ -36,6 +37,7 @@ class QtHost : public ui::UiHost {
   ui::MsgResult MsgBox(const std::string& text, ui::MsgIcon icon, ui::MsgButtons buttons,
                        const std::string& title) override;
   std::optional<std::string> SaveFile(const ui::SaveDialog& dialog) override;
+  std::optional<std::string> OpenFile(const ui::OpenDialog& dialog) override;
   std::optional<DirectoryContainer> ChooseContainer(const std::string& title, const DirectoryContainer& root,
                                                     const ui::ContainersOf& containersOf) override;
   void SetClipboardText(const std::string& text) override;
@@ -59,6 +61,7 @@ class QtHost : public ui::UiHost {
   FormView& Open(ui::Form& form, bool modal);
   QWidget* Opener() const;
   void RunDialog(QDialog& dialog);
+  std::optional<std::string> ChosenFile(QFileDialog& chooser);
   void Flush();
   void Retire(FormView& view);
   void ClearRetired();

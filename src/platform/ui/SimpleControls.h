@@ -77,9 +77,18 @@ struct TextBox : Control {
   std::string Text;
   /// Shown and copied, but not typed into.
   bool Locked = false;
+  /// Of several lines, parted by CR LF.
   bool MultiLine = false;
   /// Shown as dots, and never copied or undone.
   bool IsPassword = false;
+  /// The most characters that the user may type; 0 for any number.
+  int MaxLength = 0;
+  /// Where the caret stands: the count of characters before it, a line break of several lines counting as two.
+  int SelStart = 0;
+  /// The user changed the text; the caret stands behind what is new.
+  Handler Change;
+  /// The user clicked into the box; the caret stands where the click put it.
+  Handler Click;
   /// Asked for each character that the user types or pastes, as a Unicode code point; false refuses it. It may beep,
   /// but must not change any control.
   std::function<bool(char32_t character)> KeyPress;

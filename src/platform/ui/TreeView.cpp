@@ -1,5 +1,7 @@
 #include "platform/ui/TreeView.h"
 
+#include <utility>
+
 #include "platform/RuntimeError.h"
 
 namespace corvane::ui {
@@ -27,6 +29,7 @@ void TreeView::Clear() {
   keys_.clear();
   roots_.clear();
   selected_ = 0;
+  edited_ = 0;
   ++structure_;
 }
 
@@ -63,6 +66,33 @@ void TreeView::Collect(const std::vector<NodeId>& level, std::vector<NodeId>& al
   }
 }
 
+void TreeView::SetKey(NodeId node, std::string key) {
+  TreeNode& changed = At(node);
+  if (key == changed.Key) return;
+  if (!key.empty() && !keys_.emplace(key, node).second)
+    throw RuntimeError(errors::KeyNotUnique, "Key is not unique in collection");
+  keys_.erase(changed.Key);
+  changed.Key = std::move(key);
+}
+
+void TreeView::SetText(NodeId node, std::string text) {
+  At(node).Text = std::move(text);
+  ++structure_;
+}
+
+void TreeView::StartLabelEdit(NodeId node) {
+  Node(node);
+  edited_ = node;
+}
+
+// The handler may remove the node or start another edit.
+void TreeView::EndLabelEdit(const std::string& text) {
+  const NodeId node = std::exchange(edited_, 0);
+  if (node == 0) return;
+  if (AfterLabelEdit && !AfterLabelEdit(node, text)) return;
+  if (nodes_.count(node) > 0) SetText(node, text);
+}
+
 void TreeView::SetExpanded(NodeId node, bool expanded) {
   At(node).Expanded = expanded;
   ++structure_;
@@ -76,6 +106,7 @@ void TreeView::Select(NodeId node) {
 void TreeView::Forget(NodeId node) {
   for (const NodeId child : Node(node).Children) Forget(child);
   if (selected_ == node) selected_ = 0;
+  if (edited_ == node) edited_ = 0;
   if (const std::string& key = Node(node).Key; !key.empty()) keys_.erase(key);
   nodes_.erase(node);
 }

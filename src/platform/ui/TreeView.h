@@ -44,6 +44,10 @@ class TreeView : public Control {
   /// All nodes, each before its children, in the order shown.
   std::vector<NodeId> InTreeOrder() const;
 
+  /// Gives a node another key. One that stands already raises `KeyNotUnique`.
+  void SetKey(NodeId node, std::string key);
+  void SetText(NodeId node, std::string text);
+
   /// Opens or closes a branch without running its handler.
   void SetExpanded(NodeId node, bool expanded);
 
@@ -52,11 +56,22 @@ class TreeView : public Control {
 
   unsigned StructureRevision() const { return structure_; }
 
+  /// Lets the user change the text of a node in its place. `AfterLabelEdit` runs when the user is done.
+  void StartLabelEdit(NodeId node);
+  /// The node whose text is being changed; 0 for none.
+  NodeId EditedNode() const { return edited_; }
+  /// What the host calls when the user is done: runs `AfterLabelEdit` and takes the text over when it agrees.
+  void EndLabelEdit(const std::string& text);
+  /// What the host calls when the user gave up: nothing changes.
+  void CancelLabelEdit() { edited_ = 0; }
+
   /// The branch of a node was opened, or closed, by the user.
   std::function<void(NodeId node)> Expand;
   std::function<void(NodeId node)> Collapse;
   std::function<void(NodeId node)> NodeClick;
   Handler DblClick;
+  /// The user is done with the text of a node. False keeps the old one. The node still has it meanwhile.
+  std::function<bool(NodeId node, const std::string& text)> AfterLabelEdit;
 
  private:
   TreeNode& At(NodeId node);
@@ -68,6 +83,7 @@ class TreeView : public Control {
   std::vector<NodeId> roots_;
   NodeId last_ = 0;
   NodeId selected_ = 0;
+  NodeId edited_ = 0;
   unsigned structure_ = 0;
 };
 

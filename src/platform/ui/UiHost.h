@@ -26,6 +26,13 @@ struct SaveDialog {
   std::string FileName;
 };
 
+/// What a dialog asks for that chooses a file to read.
+struct OpenDialog {
+  std::string Title;
+  /// Such as "HTML files (*.htm)".
+  std::string Filter;
+};
+
 /// The containers directly within that of a path. Raises when they cannot be read.
 using ContainersOf = std::function<std::vector<DirectoryContainer>(const std::string& path)>;
 
@@ -60,6 +67,8 @@ class UiHost {
   /// Asks where to write a file. The path, with `\\` as separator, or nothing when the user cancels; replacing a file
   /// that is there has been agreed to.
   virtual std::optional<std::string> SaveFile(const SaveDialog& dialog) = 0;
+  /// Asks for a file to read. The path of one that is there, with `\\` as separator, or nothing when the user cancels.
+  virtual std::optional<std::string> OpenFile(const OpenDialog& dialog) = 0;
   /// Lets the user choose a container below `root`, whose tree is read as its branches are opened. Nothing when the
   /// user cancels. What cannot be read is told in the dialog.
   virtual std::optional<DirectoryContainer> ChooseContainer(const std::string& title, const DirectoryContainer& root,

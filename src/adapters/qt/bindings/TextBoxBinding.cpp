@@ -1,7 +1,9 @@
 #include "adapters/qt/bindings/TextBoxBinding.h"
 
+#include <QEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <algorithm>
 
 #include "adapters/qt/Text.h"
 #include "adapters/qt/bindings/CharacterFilter.h"
@@ -10,6 +12,23 @@ namespace corvane::qt {
 namespace {
 
 constexpr int PageMargin = 10;
+constexpr int AnyLength = 32767;
+
+// Counts characters as the control does: one outside the basic plane is one, a line break two.
+int CaretOf(QString before) {
+  before.replace('\n', "\r\n");
+  return static_cast<int>(before.toUcs4().size());
+}
+
+// How much of a text of the toolkit's stands before a caret of the control's.
+int PositionOf(const QString& text, int caret) {
+  int position = 0;
+  for (int left = caret; left > 0 && position < text.size(); ++position) {
+    left -= text.at(position) == '\n' ? 2 : 1;
+    if (text.at(position).isHighSurrogate()) ++position;
+  }
+  return std::min(position, static_cast<int>(text.size()));
+}
 
 }  // namespace
 
@@ -17,12 +36,29 @@ LineBinding::LineBinding(FormView& view, ui::TextBox& control, QLineEdit* line)
     : Binding(view, control, line), control_(control), line_(line) {
   if (control.KeyPress) line->setValidator(new CharacterFilter(control, this));
   if (control.IsPassword) line->setEchoMode(QLineEdit::Password);
-  connect(line, &QLineEdit::textChanged, this, [this](const QString& text) {
-    if (IsUsers()) control_.Text = FromQt(text);
-  });
+  connect(line, &QLineEdit::textChanged, this, &LineBinding::Changed);
+  connect(line, &QLineEdit::cursorPositionChanged, this, &LineBinding::NoteCaret);
+}
+
+void LineBinding::Changed(const QString& text) {
+  if (!IsUsers()) return;
+  control_.Text = FromQt(text);
+  NoteCaret();
+  Fire(control_.Change);
+}
+
+void LineBinding::NoteCaret() {
+  if (IsUsers()) control_.SelStart = CaretOf(line_->text().left(line_->cursorPosition()));
+}
+
+bool LineBinding::Filter(QEvent& event) {
+  if (event.type() == QEvent::MouseButtonRelease) Postpone(control_.Click);
+  return false;
 }
 
 void LineBinding::Update() {
+  if (const int length = control_.MaxLength > 0 ? control_.MaxLength : AnyLength; line_->maxLength() != length)
+    line_->setMaxLength(length);
   if (const QString text = ToQt(control_.Text); line_->text() != text) line_->setText(text);
   if (line_->isReadOnly() != control_.Locked) line_->setReadOnly(control_.Locked);
 }
@@ -31,14 +67,39 @@ TextBinding::TextBinding(FormView& view, ui::TextBox& control, QPlainTextEdit* t
     : Binding(view, control, text), control_(control), text_(text) {
   text->setTabChangesFocus(true);
   text->document()->setDocumentMargin(PageMargin);
-  connect(text, &QPlainTextEdit::textChanged, this, [this] {
-    if (IsUsers()) control_.Text = shown_ = FromQt(text_->toPlainText());
-  });
+  connect(text, &QPlainTextEdit::textChanged, this, &TextBinding::Changed);
+  connect(text, &QPlainTextEdit::cursorPositionChanged, this, &TextBinding::NoteCaret);
+}
+
+void TextBinding::Changed() {
+  if (!IsUsers()) return;
+  control_.Text = shown_ = FromQt(text_->toPlainText().replace('\n', "\r\n"));
+  NoteCaret();
+  Fire(control_.Change);
+}
+
+void TextBinding::NoteCaret() {
+  if (!IsUsers()) return;
+  control_.SelStart = shownCaret_ = CaretOf(text_->toPlainText().left(text_->textCursor().position()));
+}
+
+bool TextBinding::Filter(QEvent& event) {
+  if (event.type() == QEvent::MouseButtonRelease) Postpone(control_.Click);
+  return false;
 }
 
 void TextBinding::Update() {
-  if (control_.Text != shown_) text_->setPlainText(ToQt(shown_ = control_.Text));
+  const bool isNew = control_.Text != shown_;
+  if (isNew) text_->setPlainText(ToQt(shown_ = control_.Text));
+  if (isNew || control_.SelStart != shownCaret_) MoveCaret();
   if (text_->isReadOnly() != control_.Locked) text_->setReadOnly(control_.Locked);
+}
+
+void TextBinding::MoveCaret() {
+  shownCaret_ = control_.SelStart;
+  QTextCursor cursor = text_->textCursor();
+  cursor.setPosition(PositionOf(text_->toPlainText(), shownCaret_));
+  text_->setTextCursor(cursor);
 }
 
 }  // namespace corvane::qt

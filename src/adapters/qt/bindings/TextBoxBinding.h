@@ -17,8 +17,12 @@ class LineBinding : public Binding {
 
  protected:
   void Update() override;
+  bool Filter(QEvent& event) override;
 
  private:
+  void Changed(const QString& text);
+  void NoteCaret();
+
   ui::TextBox& control_;
   QLineEdit* line_;
 };
@@ -30,12 +34,18 @@ class TextBinding : public Binding {
 
  protected:
   void Update() override;
+  bool Filter(QEvent& event) override;
 
  private:
+  void Changed();
+  void NoteCaret();
+  void MoveCaret();
+
   ui::TextBox& control_;
   QPlainTextEdit* text_;
   /// What the widget shows, as the control has it: the widget keeps line breaks in its own way.
   std::string shown_;
+  int shownCaret_ = 0;
 };
 
 }  // namespace corvane::qt

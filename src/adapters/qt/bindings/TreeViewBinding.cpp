@@ -1,5 +1,6 @@
 #include "adapters/qt/bindings/TreeViewBinding.h"
 
+#include <QAbstractItemDelegate>
 #include <QHeaderView>
 #include <QTreeView>
 
@@ -14,6 +15,10 @@ TreeViewBinding::TreeViewBinding(FormView& view, ui::TreeView& control, QTreeVie
   connect(tree, &QTreeView::collapsed, this, [this](const QModelIndex& index) { Branched(index, false); });
   connect(tree, &QTreeView::clicked, this, &TreeViewBinding::FireNodeClick);
   connect(tree, &QTreeView::doubleClicked, this, [this] { Postpone(control_.DblClick); });
+  // The editor is still there: what it asks may show a box only after it.
+  model_.LabelEdited = [this](const std::string& text) { Postpone([this, text] { control_.EndLabelEdit(text); }); };
+  connect(tree->itemDelegate(), &QAbstractItemDelegate::closeEditor, this,
+          [this] { Postpone([this] { control_.CancelLabelEdit(); }); });
 }
 
 void TreeViewBinding::Update() {
@@ -23,6 +28,16 @@ void TreeViewBinding::Update() {
     UpdateBranches();
   }
   UpdateSelection();
+  UpdateLabelEdit();
+}
+
+// Closing the editor comes back as the user's giving up, which is no news then.
+void TreeViewBinding::UpdateLabelEdit() {
+  if (edited_ == control_.EditedNode()) return;
+  edited_ = control_.EditedNode();
+  if (edited_ == 0) return;
+  Tree().setFocus(Qt::OtherFocusReason);
+  Tree().edit(model_.IndexOf(edited_));
 }
 
 void TreeViewBinding::UpdateBranches() {

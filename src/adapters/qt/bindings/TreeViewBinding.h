@@ -18,10 +18,13 @@ class TreeViewBinding : public ItemViewBinding {
   void CurrentChanged(const QModelIndex& current);
   void Branched(const QModelIndex& index, bool expanded);
   void FireNodeClick(const QModelIndex& index);
+  void UpdateLabelEdit();
 
   ui::TreeView& control_;
   TreeViewModel model_;
   unsigned structure_ = 0;
+  /// The node whose text the widget lets the user change.
+  ui::NodeId edited_ = 0;
 };
 
 }  // namespace corvane::qt

@@ -133,9 +133,20 @@ int TreeViewModel::rowCount(const QModelIndex& parent) const {
 QVariant TreeViewModel::data(const QModelIndex& index, int role) const {
   const auto found = shown_.find(NodeAt(index));
   if (!index.isValid() || found == shown_.end()) return {};
-  if (role == Qt::DisplayRole) return ToQt(found->second.Text);
+  if (role == Qt::DisplayRole || role == Qt::EditRole) return ToQt(found->second.Text);
   if (role == Qt::DecorationRole) return icons::Variant(found->second.Image);
   return {};
+}
+
+Qt::ItemFlags TreeViewModel::flags(const QModelIndex& index) const {
+  const Qt::ItemFlags flags = QAbstractItemModel::flags(index);
+  return index.isValid() && NodeAt(index) == tree_.EditedNode() ? flags | Qt::ItemIsEditable : flags;
+}
+
+bool TreeViewModel::setData(const QModelIndex&, const QVariant& value, int role) {
+  if (role != Qt::EditRole || !LabelEdited) return false;
+  LabelEdited(FromQt(value.toString()));
+  return true;
 }
 
 }  // namespace corvane::qt

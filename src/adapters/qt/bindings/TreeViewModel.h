@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QAbstractItemModel>
+#include <functional>
+#include <string>
 #include <unordered_map>
 #include <vector>
 
@@ -26,6 +28,11 @@ class TreeViewModel : public QAbstractItemModel {
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& = {}) const override { return 1; }
   QVariant data(const QModelIndex& index, int role) const override;
+  Qt::ItemFlags flags(const QModelIndex& index) const override;
+  bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+
+  /// What the user wrote in the place of a node's text.
+  std::function<void(const std::string& text)> LabelEdited;
 
  private:
   struct Shown {
