@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "alarms/Bundles.h"
 #include "core/PassOver.h"
 #include "core/SqlText.h"
 #include "core/modMain.h"
@@ -69,14 +70,9 @@ void AlarmAssignment::FillAvailable() {
 
 void AlarmAssignment::LoadBundleList() {
   controls_.Bundles.Clear();
-  ForEachRow(main_, "SELECT * FROM AlarmGroups ORDER BY Name ASC", CursorType::ForwardOnly, LockType::ReadOnly,
-             [&](Recordset& row) {
-               ui::ListItem item;
-               item.Key = "GROUP\\" + ToText(row.Field("Index"));
-               item.Text = NullToEmpty(row.Field("Name"));
-               item.Icon = alarmimage::Bundle;
-               controls_.Bundles.Add(std::move(item));
-             });
+  ForEachBundle(main_, [&](const std::string& key, const std::string& name) {
+    PassOver([&] { controls_.Bundles.Add({key, name, {}, alarmimage::Bundle}); });
+  });
 }
 
 // Read by the log's key alone, without its domain.
@@ -113,33 +109,22 @@ void AlarmAssignment::LoadAssociatedBundles(const std::string& idName) {
 
 void AlarmAssignment::AddSelected() {
   PassOver([&] {
-    const ui::NodeId node = controls_.Catalogue.Selected();
-    if (!treeUsedLast_)
-      AddBundleRow();
-    else if (controls_.Catalogue.Node(node).Image == alarmimage::Category)
-      AddCategory(node);
+    if (treeUsedLast_)
+      AddPicked();
     else
-      AddAlarm(node);
+      AddBundleRow();
+  });
+}
+
+void AlarmAssignment::AddPicked() {
+  catalogue_.ForEachPicked(controls_.Catalogue.Selected(), [&](const std::string& name, const std::string& osName) {
+    PassOver([&] { chosen_.AddAlarmNode(name, osName); });
   });
 }
 
 void AlarmAssignment::AddBundleRow() {
   const ui::ListItem& row = controls_.Bundles.Item(controls_.Bundles.SelectedRow());
   chosen_.AddBundleNode(row.Text, chosenkey::BundleId(row.Key));
-}
-
-void AlarmAssignment::AddCategory(ui::NodeId category) {
-  PassOver([&] { catalogue_.Expand(category); });
-  const std::vector<ui::NodeId> alarms = controls_.Catalogue.ChildrenOf(category);
-  for (const ui::NodeId alarm : alarms) PassOver([&] { AddAlarm(alarm); });
-}
-
-// The OS class stands three levels above an alarm; a node further up has nothing there and adds nothing.
-void AlarmAssignment::AddAlarm(ui::NodeId node) {
-  const ui::TreeView& tree = controls_.Catalogue;
-  const ui::NodeId logType = tree.Node(tree.Node(node).Parent).Parent;
-  const std::string osName = tree.Node(tree.Node(logType).Parent).Text;
-  chosen_.AddAlarmNode(tree.Node(node).Text, osName);
 }
 
 void AlarmAssignment::RemoveSelected() { chosen_.RemoveSelected(); }

@@ -42,8 +42,7 @@ class AlarmAssignment {
   void LoadAssociatedAlarms(const std::string& idName);
   void LoadAssociatedBundles(const std::string& idName);
   void AddBundleRow();
-  void AddCategory(ui::NodeId category);
-  void AddAlarm(ui::NodeId node);
+  void AddPicked();
   void SetAvailableWide(bool wide);
 
   modMain& main_;

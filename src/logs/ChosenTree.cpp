@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "alarms/AlarmTree.h"
+#include "alarms/Bundles.h"
 #include "core/PassOver.h"
 #include "core/SqlText.h"
 #include "core/modMain.h"
@@ -94,15 +95,9 @@ void ChosenTree::AddBundleNode(const std::string& name, const std::string& id) {
   if (Refuses(name, "You cannot add an alarm bundle twice!")) return;
   PassOver([&] {
     const ui::NodeId bundle = tree_.Add(0, "GROUP_" + id, name, alarmimage::Bundle);
-    const auto members = main_.Platform.Data.NewRecordset();
-    members->Open("SELECT * FROM AlarmsInGroups, Alarms WHERE AlarmGroupID = " + id +
-                      " AND Alarms.AlarmID = AlarmsInGroups.AlarmID",
-                  *main_.ConfigConnection, CursorType::ForwardOnly, LockType::ReadOnly);
-    for (; !members->Eof(); members->MoveNext())
-      PassOver([&] {
-        tree_.Add(bundle, std::string(MemberPrefix) + id + "_" + ToText(members->Field("Alarms.AlarmID")),
-                  NullToEmpty(members->Field("Name")), alarmimage::Alarm);
-      });
+    ForEachMember(main_, id, [&](const std::string& alarmId, const std::string& member) {
+      PassOver([&] { tree_.Add(bundle, std::string(MemberPrefix) + id + "_" + alarmId, member, alarmimage::Alarm); });
+    });
   });
 }
 
