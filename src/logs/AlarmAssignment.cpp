@@ -2,7 +2,6 @@
 
 #include <vector>
 
-#include "alarms/Bundles.h"
 #include "core/PassOver.h"
 #include "core/SqlText.h"
 #include "core/modMain.h"
@@ -27,10 +26,9 @@ AlarmAssignment::AlarmAssignment(modMain& main, const Controls& controls, const 
     : main_(main),
       controls_(controls),
       tables_(tables),
-      catalogue_(main, controls.Catalogue),
+      picker_(main, controls.Catalogue, controls.Bundles),
       chosen_(main, controls.Chosen, duplicateReported) {
   controls_.Bundles.Columns = {{"Name", assignment::WideColumn, false}};
-  controls_.Bundles.SetMultiSelect(false);
   controls_.Catalogue.DragTargets = {&controls_.Chosen};
   controls_.Bundles.DragTargets = {&controls_.Chosen};
   SetAvailableWide(true);
@@ -38,20 +36,15 @@ AlarmAssignment::AlarmAssignment(modMain& main, const Controls& controls, const 
 }
 
 void AlarmAssignment::WireHandlers() {
-  controls_.Catalogue.GotFocus = [this] {
-    treeUsedLast_ = true;
-    SetAvailableWide(true);
-  };
-  controls_.Bundles.GotFocus = [this] {
-    treeUsedLast_ = false;
-    SetAvailableWide(true);
-  };
+  for (ui::Control* available : std::initializer_list<ui::Control*>{&controls_.Catalogue, &controls_.Bundles})
+    available->GotFocus = [this, used = available->GotFocus] {
+      used();
+      SetAvailableWide(true);
+    };
   controls_.Chosen.GotFocus = [this] { SetAvailableWide(false); };
   controls_.Catalogue.MouseMove = [this] { SetAvailableWide(true); };
   controls_.Bundles.MouseMove = [this] { SetAvailableWide(true); };
   controls_.Chosen.MouseMove = [this] { SetAvailableWide(false); };
-  controls_.Catalogue.Expand = [this](ui::NodeId node) { PassOver([&] { catalogue_.Expand(node); }); };
-  controls_.Catalogue.Collapse = [this](ui::NodeId node) { PassOver([&] { catalogue_.Collapse(node); }); };
   controls_.Chosen.NodeClick = [this](ui::NodeId node) { controls_.Remove.Enabled = chosen_.MayRemove(node); };
   controls_.Chosen.DragDrop = [this] { AddSelected(); };
 }
@@ -63,16 +56,8 @@ void AlarmAssignment::SetAvailableWide(bool wide) {
 }
 
 void AlarmAssignment::FillAvailable() {
-  PassOver([&] { catalogue_.FillOSNodes(); });
-  PassOver([&] { LoadBundleList(); });
+  picker_.Fill();
   controls_.Chosen.Clear();
-}
-
-void AlarmAssignment::LoadBundleList() {
-  controls_.Bundles.Clear();
-  ForEachBundle(main_, [&](const std::string& key, const std::string& name) {
-    PassOver([&] { controls_.Bundles.Add({key, name, {}, alarmimage::Bundle}); });
-  });
 }
 
 // Read by the log's key alone, without its domain.
@@ -107,25 +92,7 @@ void AlarmAssignment::LoadAssociatedBundles(const std::string& idName) {
   });
 }
 
-void AlarmAssignment::AddSelected() {
-  PassOver([&] {
-    if (treeUsedLast_)
-      AddPicked();
-    else
-      AddBundleRow();
-  });
-}
-
-void AlarmAssignment::AddPicked() {
-  catalogue_.ForEachPicked(controls_.Catalogue.Selected(), [&](const std::string& name, const std::string& osName) {
-    PassOver([&] { chosen_.AddAlarmNode(name, osName); });
-  });
-}
-
-void AlarmAssignment::AddBundleRow() {
-  const ui::ListItem& row = controls_.Bundles.Item(controls_.Bundles.SelectedRow());
-  chosen_.AddBundleNode(row.Text, chosenkey::BundleId(row.Key));
-}
+void AlarmAssignment::AddSelected() { picker_.AddSelectedTo(chosen_); }
 
 void AlarmAssignment::RemoveSelected() { chosen_.RemoveSelected(); }
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "alarms/AlarmTree.h"
+#include "alarms/AlarmPicker.h"
+#include "alarms/ChosenTree.h"
 #include "logs/AttachmentRows.h"
-#include "logs/ChosenTree.h"
 
 namespace corvane::ui {
 struct CommandButton;
@@ -38,20 +38,15 @@ class AlarmAssignment {
 
  private:
   void WireHandlers();
-  void LoadBundleList();
   void LoadAssociatedAlarms(const std::string& idName);
   void LoadAssociatedBundles(const std::string& idName);
-  void AddBundleRow();
-  void AddPicked();
   void SetAvailableWide(bool wide);
 
   modMain& main_;
   Controls controls_;
   AttachmentTables tables_;
-  AlarmTree catalogue_;
+  AlarmPicker picker_;
   ChosenTree chosen_;
-  /// Which available side was used last, by focus: the tree, or else the list of bundles.
-  bool treeUsedLast_ = false;
 };
 
 }  // namespace corvane

@@ -1,4 +1,4 @@
-#include "logs/ChosenTree.h"
+#include "alarms/ChosenTree.h"
 
 #include <algorithm>
 
@@ -16,7 +16,6 @@ namespace {
 
 /// Number of the single alarm's picture in the shared list.
 constexpr int SingleAlarmImage = 21;
-constexpr std::size_t DigitsAndUnderscore = 5;
 constexpr std::string_view MemberPrefix = "GROUP\\";
 constexpr std::string_view BundlePrefix = "GROUP";
 
@@ -44,9 +43,14 @@ bool IsBundle(std::string_view key) { return key.starts_with(BundlePrefix) && !I
 std::string BundleId(std::string_view key) {
   return std::string(key.substr(std::min(key.size(), MemberPrefix.size())));
 }
-std::string CategoryIndex(std::string_view key) {
-  return std::string(key.substr(std::min(key.size(), DigitsAndUnderscore)));
+std::string CategoryIndex(std::string_view key) { return std::string(key.substr(key.find('_') + 1)); }
+// Of a name with an underscore only the part behind it goes into the file; the members then find no bundle there.
+std::string WrittenName(std::string_view bundleKey) { return std::string(bundleKey.substr(bundleKey.rfind('_') + 1)); }
+std::string BundleOfMember(std::string_view memberKey) {
+  const std::string_view name = memberKey.substr(0, memberKey.rfind('\\'));
+  return std::string(name.substr(std::min(name.size(), MemberPrefix.size())));
 }
+std::string AlarmOfMember(std::string_view memberKey) { return GetLastKeyPart(memberKey); }
 
 }  // namespace chosenkey
 
@@ -63,24 +67,34 @@ bool FindNodeText(const ui::TreeView& tree, ui::NodeId start, std::string_view t
 }
 
 // Names are compared across the whole tree, members included: an alarm of one name is one alarm, whatever its OS class.
-bool ChosenTree::Refuses(const std::string& name, const char* message) {
-  if (tree_.Count() == 0 || !FindNodeText(tree_, tree_.Roots().front(), name)) return false;
-  if (!duplicateReported_) main_.Ui.MsgBox(message, ui::MsgIcon::Exclamation);
-  duplicateReported_ = true;
-  return true;
+bool ChosenTree::HoldsName(const std::string& name) const {
+  return tree_.Count() > 0 && FindNodeText(tree_, tree_.Roots().front(), name);
 }
 
-void ChosenTree::AddAlarmNode(const std::string& name, const std::string& osName) {
-  if (Refuses(name, "You cannot add an alarm or ignore event twice!")) return;
-  PassOver([&] {
-    const std::string key = NewAlarmKey(name, osName);
-    if (!key.empty()) tree_.Add(0, key, name, main_.CVMain->Images().Key(SingleAlarmImage));
+bool ChosenTree::HoldsSingle(const std::string& name, const std::string& categoryIndex) const {
+  return std::ranges::any_of(tree_.Roots(), [&](ui::NodeId id) {
+    const ui::TreeNode& node = tree_.Node(id);
+    return !chosenkey::IsBundle(node.Key) && SameText(node.Text, name) &&
+           SameText(chosenkey::CategoryIndex(node.Key), categoryIndex);
   });
 }
 
-// The first alarm of the name decides the category, whichever was picked. The count in front can come again after a
-// removal; the add then fails on its key without a word.
-std::string ChosenTree::NewAlarmKey(const std::string& name, const std::string& osName) {
+void ChosenTree::Refuse(const char* message) {
+  if (!IsForLog() || !*duplicateReported_) main_.Ui.MsgBox(message, ui::MsgIcon::Exclamation);
+  if (IsForLog()) *duplicateReported_ = true;
+}
+
+void ChosenTree::AddAlarmNode(const std::string& name, const std::string& osName) {
+  if (IsForLog() && HoldsName(name)) return Refuse("You cannot add an alarm or ignore event twice!");
+  PassOver([&] {
+    const std::string category = FindCategoryIndex(name, osName);
+    if (category.empty() || (!IsForLog() && HoldsSingle(name, category))) return;
+    tree_.Add(0, NewAlarmKey(category), name, main_.CVMain->Images().Key(SingleAlarmImage));
+  });
+}
+
+// The first alarm of the name decides the category, whichever was picked.
+std::string ChosenTree::FindCategoryIndex(const std::string& name, const std::string& osName) {
   const auto alarms = main_.Platform.Data.NewRecordset();
   alarms->Open("SELECT * FROM Alarms WHERE Name = '" + name + "'", *main_.ConfigConnection, CursorType::ForwardOnly,
                LockType::ReadOnly);
@@ -88,15 +102,26 @@ std::string ChosenTree::NewAlarmKey(const std::string& name, const std::string& 
   categories->Open("SELECT * FROM AlarmCategories", *main_.ConfigConnection, CursorType::Dynamic, LockType::Optimistic);
   if (alarms->Eof() && alarms->Bof()) return {};
   categories->Find("Index = " + QuoteSqlText(NullToEmpty(alarms->Field("AlarmCategory"))));
-  return PadZero(tree_.Count(), 4) + "_" + NullToEmpty(categories->Field("Name")) + OsSuffix(osName);
+  return NullToEmpty(categories->Field("Name")) + OsSuffix(osName);
+}
+
+// The count can come again after a removal: for a log the add then fails on its key without a word; for an export the
+// next free number is taken.
+std::string ChosenTree::NewAlarmKey(const std::string& categoryIndex) const {
+  int number = tree_.Count();
+  const auto key = [&] { return PadZero(number, 4) + "_" + categoryIndex; };
+  while (!IsForLog() && tree_.Find(key()) != 0) ++number;
+  return key();
 }
 
 void ChosenTree::AddBundleNode(const std::string& name, const std::string& id) {
-  if (Refuses(name, "You cannot add an alarm bundle twice!")) return;
+  const std::string key = "GROUP_" + id + (IsForLog() ? "" : "_" + name);
+  if (IsForLog() ? HoldsName(name) : tree_.Find(key) != 0) return Refuse("You cannot add an alarm bundle twice!");
+  const std::string members = std::string(MemberPrefix) + (IsForLog() ? id + "_" : name + "\\");
   PassOver([&] {
-    const ui::NodeId bundle = tree_.Add(0, "GROUP_" + id, name, alarmimage::Bundle);
+    const ui::NodeId bundle = tree_.Add(0, key, name, alarmimage::Bundle);
     ForEachMember(main_, id, [&](const std::string& alarmId, const std::string& member) {
-      PassOver([&] { tree_.Add(bundle, std::string(MemberPrefix) + id + "_" + alarmId, member, alarmimage::Alarm); });
+      PassOver([&] { tree_.Add(bundle, members + alarmId, member, alarmimage::Alarm); });
     });
   });
 }
