@@ -6,6 +6,9 @@
 
 namespace corvane {
 
+constexpr int OsClassCount = 3;
+constexpr int SecurityLog = 3;
+
 /// A category of alarms under one OS class (1 to 3), in one log (1 to 6).
 struct CatalogueCategory {
   std::string Name;
@@ -60,6 +63,13 @@ struct Catalogue {
   std::vector<CatalogueAlarm> Alarms;
   std::vector<CatalogueBundle> Bundles;
   std::vector<CatalogueNotification> Notifications;
+
+  /// The number of the log in which the alarm's category stands; 0 when there is no such category.
+  int LogOf(const CatalogueAlarm& alarm) const {
+    for (const CatalogueCategory& category : Categories)
+      if (category.Os == alarm.Os && category.Name == alarm.Category) return category.LogType;
+    return 0;
+  }
 };
 
 }  // namespace corvane

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <utility>
 
+#include "app/installation/Fields.h"
 #include "app/installation/InstallationError.h"
 #include "core/LogTypes.h"
 #include "platform/Conversions.h"
@@ -12,7 +12,6 @@
 namespace corvane {
 namespace {
 
-constexpr int OsClassCount = 3;
 // Windows NT 4.0 has the first three logs only.
 constexpr int LastLogOfOldest = 3;
 constexpr std::size_t LongestCategory = 250, LongestComment = 249, LongestText = 255, LongestTarget = 100;
@@ -25,16 +24,20 @@ constexpr std::string_view RefusedInBundle = "'\"-|=\\_";
 constexpr std::string_view RefusedInComment = "'\"-|=";
 constexpr std::string_view RefusedInText = "|=";
 
+// Failure Audit and Success Audit, the types of the Security log.
+constexpr int Audits = 8 + 16;
+
 const std::array<std::string, 5> TypeNames{"Information", "Warning", "Error", "Failure Audit", "Success Audit"};
 
 std::vector<std::string> Split(std::string_view text, char separator) {
-  std::vector<std::string> parts;
-  for (std::size_t at = 0; at != text.npos;) {
-    const std::size_t end = text.find(separator, at);
-    parts.push_back(Trim(text.substr(at, end == text.npos ? end : end - at)));
-    at = end == text.npos ? end : end + 1;
-  }
+  auto parts = SplitFields(text, separator);
+  for (std::string& part : parts) part = Trim(part);
   return parts;
+}
+
+// The classic systems number their audits from 512, the newer ones from 4608 and those of their event log from 1100.
+bool IsAudit(int os, int id) {
+  return os < OsClassCount ? id >= 512 && id <= 863 : (id >= 1100 && id <= 1108) || (id >= 4608 && id <= 6420);
 }
 
 std::string Criteria(const CatalogueAlarm& alarm) {
@@ -173,12 +176,23 @@ void CatalogueFile::AddMatch(const std::string& value) {
 
 void CatalogueFile::AddAlarm(int os) {
   alarm_.Os = os;
-  if (!HasCategory(os)) Fail("the category does not stand under OS class " + std::to_string(os));
+  const int log = catalogue_.LogOf(alarm_);
+  if (log == 0) Fail("the category does not stand under OS class " + std::to_string(os));
+  CheckEvent(log);
   TakeName("alarm " + std::to_string(os), alarm_.Name);
   if (!criteria_.insert(Criteria(alarm_)).second)
     Fail("another alarm of OS class " + std::to_string(os) + " has the same criteria");
   if (ExportLength(alarm_) >= LongestExportLine) Fail("the alarm is too long for the exchange file");
   catalogue_.Alarms.push_back(alarm_);
+}
+
+// Other sources use the same numbers for other events, so that one without the other tells of strangers.
+void CatalogueFile::CheckEvent(int log) const {
+  if ((alarm_.Types & (log == SecurityLog ? ~Audits : Audits)) != 0)
+    Fail("the " + LogName(log) + " log has no events of this type");
+  if (alarm_.Source.empty() != (alarm_.EventId == -1)) Fail("a source and an event ID belong together");
+  if (log == SecurityLog && alarm_.EventId != -1 && !IsAudit(alarm_.Os, alarm_.EventId))
+    Fail("OS class " + std::to_string(alarm_.Os) + " has no audit " + std::to_string(alarm_.EventId));
 }
 
 void CatalogueFile::BeginBundle(const std::string& value) {
@@ -257,11 +271,9 @@ int CatalogueFile::Types(const std::string& text) const {
 }
 
 int CatalogueFile::Number(const std::string& text, int least, int most) const {
-  int number = 0;
-  const auto [end, status] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (status != std::errc() || end != text.data() + text.size() || number < least || number > most)
-    Fail("'" + text + "' is no number from " + std::to_string(least) + " to " + std::to_string(most));
-  return number;
+  const auto number = WholeNumber(text, least, most);
+  if (!number) Fail("'" + text + "' is no number from " + std::to_string(least) + " to " + std::to_string(most));
+  return *number;
 }
 
 void CatalogueFile::CheckText(const std::string& text, std::string_view refused, std::size_t longest) const {
@@ -273,11 +285,6 @@ void CatalogueFile::CheckText(const std::string& text, std::string_view refused,
 
 void CatalogueFile::TakeName(const std::string& kind, const std::string& name) {
   if (!names_.insert(kind + "\n" + UpperCase(name)).second) Fail("'" + name + "' is used for the second time");
-}
-
-bool CatalogueFile::HasCategory(int os) const {
-  return std::any_of(catalogue_.Categories.begin(), catalogue_.Categories.end(),
-                     [&](const CatalogueCategory& c) { return c.Os == os && c.Name == alarm_.Category; });
 }
 
 void CatalogueFile::Fail(const std::string& what, int line) const {

@@ -50,7 +50,7 @@ class CatalogueFile {
   int Number(const std::string& text, int least, int most) const;
   void CheckText(const std::string& text, std::string_view refused, std::size_t longest) const;
   void TakeName(const std::string& kind, const std::string& name);
-  bool HasCategory(int os) const;
+  void CheckEvent(int log) const;
   [[noreturn]] void Fail(const std::string& what, int line = 0) const;
 
   std::string source_;

@@ -19,8 +19,6 @@ class CatalogueWriter {
  private:
   void WriteAll(const Catalogue& catalogue);
   void WriteClassesAndLogs();
-  void Write(const CatalogueCategory& category);
-  void Write(const CatalogueAlarm& alarm);
   void Write(const CatalogueBundle& bundle, const std::vector<CatalogueAlarm>& alarms);
   void Write(const CatalogueNotification& notification);
 

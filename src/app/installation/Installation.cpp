@@ -7,6 +7,7 @@
 #include "adapters/lab/LabNetwork.h"
 #include "adapters/linux/HostPaths.h"
 #include "adapters/sqlite/SqliteProvider.h"
+#include "app/installation/BasicChoicesFile.h"
 #include "app/installation/CatalogueFile.h"
 #include "app/installation/CatalogueWriter.h"
 #include "app/installation/ComputerRegistry.h"
@@ -68,7 +69,9 @@ void Installation::LayOut(const fs::path& folder, Kind kind) const {
 }
 
 void Installation::Fill(const fs::path& folder, Kind kind) const {
-  MakeDatabase(folder);
+  const Catalogue catalogue = ReadCatalogue();
+  MakeDatabase(folder, catalogue);
+  CopyChoices(folder, catalogue);
   CopyFile(PlatformFile, folder);
   CopyFile(LabFile, folder);
   CopyFolder(EventLogFolder, folder);
@@ -78,10 +81,19 @@ void Installation::Fill(const fs::path& folder, Kind kind) const {
   MakeRegistries(folder, *LabNetwork(folder / LabFile).Model(), kind);
 }
 
-void Installation::MakeDatabase(const fs::path& folder) const {
-  SqliteProvider::CreateStore(folder / DatabaseFile, ReadTextFile(data_ / "schema.sql"), DatabaseFormat);
+Catalogue Installation::ReadCatalogue() const {
   std::istringstream text(ReadTextFile(data_ / "catalogue.txt"));
-  const Catalogue catalogue = CatalogueFile("catalogue.txt").Read(text);
+  return CatalogueFile("catalogue.txt").Read(text);
+}
+
+void Installation::CopyChoices(const fs::path& folder, const Catalogue& catalogue) const {
+  std::istringstream text(ReadTextFile(data_ / ChoicesFile));
+  BasicChoicesFile(ChoicesFile, catalogue).Check(text);
+  CopyFile(ChoicesFile, folder);
+}
+
+void Installation::MakeDatabase(const fs::path& folder, const Catalogue& catalogue) const {
+  SqliteProvider::CreateStore(folder / DatabaseFile, ReadTextFile(data_ / "schema.sql"), DatabaseFormat);
   SqliteProvider provider{HostPaths(folder)};
   const auto connection = provider.NewConnection();
   connection->Open(ConnectionText);

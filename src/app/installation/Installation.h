@@ -5,6 +5,7 @@
 namespace corvane {
 
 class RegistryImage;
+struct Catalogue;
 struct LabModel;
 
 /// What an installation's folder holds, and how a fresh one is laid out.
@@ -17,6 +18,10 @@ class Installation {
   static constexpr const char* DatabaseFile = "corvane.db";
   static constexpr const char* RegistryFile = "corvane.reg";
   static constexpr const char* PlatformFile = "platform.ini";
+  /// What brings an older database up to date.
+  static constexpr const char* UpdateFile = "configupdate01.dat";
+  /// The ready-made event choices of the rapid configuration.
+  static constexpr const char* ChoicesFile = "rapidconfigbasic.dat";
   static constexpr const char* LabFile = "lab.ini";
   /// Where the registries of the lab's other computers lie.
   static constexpr const char* RegistryFolder = "registry";
@@ -35,9 +40,13 @@ class Installation {
   /// behind, also when the folder holds an installation already.
   void LayOut(const std::filesystem::path& folder, Kind kind) const;
 
+  /// The shipped catalogue. Raises `InstallationError`.
+  Catalogue ReadCatalogue() const;
+
  private:
   void Fill(const std::filesystem::path& folder, Kind kind) const;
-  void MakeDatabase(const std::filesystem::path& folder) const;
+  void MakeDatabase(const std::filesystem::path& folder, const Catalogue& catalogue) const;
+  void CopyChoices(const std::filesystem::path& folder, const Catalogue& catalogue) const;
   void MakeRegistries(const std::filesystem::path& folder, const LabModel& lab, Kind kind) const;
   void CopyProgram(const std::filesystem::path& folder) const;
   void CopyFile(const char* name, const std::filesystem::path& folder) const;

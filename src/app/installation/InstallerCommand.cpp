@@ -2,19 +2,25 @@
 
 #include <utility>
 
+#include "app/installation/ConfigUpdateFile.h"
 #include "app/installation/InstallationError.h"
+#include "app/installation/TextFile.h"
 
 namespace corvane {
 namespace {
 
 constexpr const char* Usage =
     "Usage: corvane-install DIR [--lab | --first-run] [--data DIR]\n"
+    "       corvane-install --config-update FILE [--data DIR]\n"
     "\n"
     "Lays out an installation of the console in DIR, which must be missing or empty.\n"
     "\n"
     "  --lab        the lab network's first domain is chosen already\n"
     "  --first-run  what a first start asks for is left open (default)\n"
-    "  --data DIR   where the files that an installation ships lie\n";
+    "  --data DIR   where the files that an installation ships lie\n"
+    "\n"
+    "With --config-update nothing is laid out: FILE is written anew with the statements that bring the database of an\n"
+    "older installation up to date, as they follow from the catalogue.\n";
 
 }  // namespace
 
@@ -29,13 +35,23 @@ int InstallerCommand::Run(const std::vector<std::string>& arguments) {
     return 0;
   }
   try {
-    Installation(data_, program_).LayOut(folder_, lab_ ? Installation::Kind::Lab : Installation::Kind::FirstRun);
+    Perform();
   } catch (const InstallationError& error) {
     errors_ << "corvane-install: " << error.what() << "\n";
     return 1;
   }
-  out_ << "The installation stands in " << folder_.string() << ".\n";
   return 0;
+}
+
+void InstallerCommand::Perform() {
+  const Installation installation(data_, program_);
+  if (!update_.empty()) {
+    WriteTextFile(update_, ConfigUpdateText(installation.ReadCatalogue()));
+    out_ << update_.string() << " is written.\n";
+    return;
+  }
+  installation.LayOut(folder_, lab_ ? Installation::Kind::Lab : Installation::Kind::FirstRun);
+  out_ << "The installation stands in " << folder_.string() << ".\n";
 }
 
 bool InstallerCommand::Read(const std::vector<std::string>& arguments) {
@@ -43,6 +59,9 @@ bool InstallerCommand::Read(const std::vector<std::string>& arguments) {
     if (*argument == "--data") {
       if (++argument == arguments.end()) return Refuse("--data needs a folder");
       data_ = *argument;
+    } else if (*argument == "--config-update") {
+      if (++argument == arguments.end()) return Refuse("--config-update needs a file");
+      update_ = *argument;
     } else if (argument->starts_with("-")) {
       if (!ReadOption(*argument)) return Refuse("unknown option " + *argument);
     } else if (!folder_.empty()) {
@@ -52,6 +71,7 @@ bool InstallerCommand::Read(const std::vector<std::string>& arguments) {
     }
   }
   if (help_) return true;
+  if (!update_.empty()) return folder_.empty() || Refuse("--config-update lays no folder out");
   if (folder_.empty()) return Refuse("no folder");
   return !(lab_ && firstRun_) || Refuse("--lab and --first-run exclude each other");
 }

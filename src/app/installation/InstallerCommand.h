@@ -20,6 +20,7 @@ class InstallerCommand {
   int Run(const std::vector<std::string>& arguments);
 
  private:
+  void Perform();
   bool Read(const std::vector<std::string>& arguments);
   bool ReadOption(const std::string& argument);
   bool Refuse(const std::string& why);
@@ -28,7 +29,7 @@ class InstallerCommand {
   std::filesystem::path program_;
   std::ostream& out_;
   std::ostream& errors_;
-  std::filesystem::path folder_;
+  std::filesystem::path folder_, update_;
   bool lab_ = false, firstRun_ = false, help_ = false;
 };
 
