@@ -9,6 +9,7 @@ namespace corvane {
 /// The numbers an administrator of this product meets in its error boxes.
 namespace errors {
 inline constexpr int Overflow = 6;
+inline constexpr int SubscriptOutOfRange = 9;
 inline constexpr int TypeMismatch = 13;
 inline constexpr int FileNotFound = 53;
 inline constexpr int FileAlreadyOpen = 55;
