@@ -86,6 +86,8 @@ char UpperByte(char c, char before) {
   return c;
 }
 
+bool BeginsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) != 0x80; }
+
 std::string_view TrimView(std::string_view text) {
   while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
   while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
@@ -147,6 +149,17 @@ int CompareText(std::string_view a, std::string_view b) {
     beforeB = b[i];
   }
   return a.size() == b.size() ? 0 : (a.size() < b.size() ? -1 : 1);
+}
+
+std::size_t CharacterCount(std::string_view text) {
+  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), BeginsCharacter));
+}
+
+std::size_t BytesOfCharacters(std::string_view text, std::size_t characters) {
+  std::size_t byte = 0;
+  for (std::size_t left = characters; byte < text.size(); ++byte)
+    if (BeginsCharacter(text[byte]) && left-- == 0) break;
+  return byte;
 }
 
 std::string Trim(std::string_view text) { return std::string(TrimView(text)); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -30,6 +31,12 @@ bool SameText(std::string_view a, std::string_view b);
 
 /// Order without regard to case: below 0, 0 or above 0.
 int CompareText(std::string_view a, std::string_view b);
+
+/// The number of characters (code points) of a UTF-8 text.
+std::size_t CharacterCount(std::string_view text);
+
+/// The bytes that the first characters of a UTF-8 text take; all of them when it has no more.
+std::size_t BytesOfCharacters(std::string_view text, std::size_t characters);
 
 /// The text without blanks at both ends.
 std::string Trim(std::string_view text);

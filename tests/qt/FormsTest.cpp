@@ -9,6 +9,8 @@
 #include "Hands.h"
 #include "StartedConsole.h"
 #include "admin/frmServiceAccount.h"
+#include "alarms/frmAlarmInformation.h"
+#include "alarms/frmAlarms.h"
 #include "app/installation/TextFile.h"
 #include "core/console/frmBegin.h"
 #include "core/console/frmControlService.h"
@@ -35,13 +37,19 @@ class FormsTest : public StartedConsole {
     frmCustomDomainManager mappings(State());
     frmServiceAccount account(State());
     frmControlService services(State(), [](Service) {});
+    frmAlarms alarms(State()), alarmFields(State());
+    AlarmPlace place{"Logon failures", "Somebody tries doors.", "", "", "", false};
+    frmAlarmInformation information(State(), place);
     SaveCustomMappings(State(), {{"192.0.2.77", "BRANCH"}, {"KIOSK1", "LOBBY"}, {"SCANNER2", "BRANCH"}});
     State().IsNewLog = true;
-    for (ui::Form* form : std::initializer_list<ui::Form*>{&Main(), &begin, &splash, &about, &editor, &events, &domain,
-                                                           &computers, &mappings, &account, &services}) {
+    for (ui::Form* form :
+         std::initializer_list<ui::Form*>{&Main(), &begin, &splash, &about, &editor, &events, &domain, &computers,
+                                          &mappings, &account, &services, &alarms, &alarmFields, &information}) {
       form->Load();
       if (form == &about) about.SetAbout(true);
       if (form == &services) services.InitForm();
+      if (form == &alarmFields) alarmFields.cmdAdd.Click();
+      if (form == &information) information.InitForm(alarms.tvAlarms);
       if (form != &Main()) form->Show();
       QTest::qWait(form == &editor || form == &events || form == &account ? 400 : 20);
       visit(*form);

@@ -1,6 +1,9 @@
 #include "adapters/qt/FormRegistry.h"
 
 #include "platform/RuntimeError.h"
+#include "ui_frmAlarmGroups.h"
+#include "ui_frmAlarmInformation.h"
+#include "ui_frmAlarms.h"
 #include "ui_frmBegin.h"
 #include "ui_frmCVMain.h"
 #include "ui_frmComputerEnum.h"
@@ -24,6 +27,9 @@ void Place(QWidget& content) {
 
 FormRegistry FormRegistry::Console() {
   FormRegistry forms;
+  forms.Add("frmAlarmGroups", {Place<Ui::frmAlarmGroups>});
+  forms.Add("frmAlarmInformation", {Place<Ui::frmAlarmInformation>});
+  forms.Add("frmAlarms", {Place<Ui::frmAlarms>});
   forms.Add("frmBegin", {Place<Ui::frmBegin>});
   forms.Add("frmCVMain", {Place<Ui::frmCVMain>});
   forms.Add("frmComputerEnum", {Place<Ui::frmComputerEnum>});

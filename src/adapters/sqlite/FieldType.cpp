@@ -2,25 +2,17 @@
 
 #include <sqlite3.h>
 
-#include <algorithm>
-
 #include "adapters/sqlite/StoreErrors.h"
 #include "platform/Conversions.h"
 
 namespace corvane {
 namespace {
 
-// Continuation bytes of UTF-8 are not counted.
-std::size_t CharactersOf(const std::string& text) {
-  return static_cast<std::size_t>(
-      std::count_if(text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
-}
-
 std::string TextWithin(const Value& value, std::size_t limit) {
   std::string text = ToText(value);
   // The engine measures a text up to its first zero byte, which would let the rest past the limit.
   if (text.find('\0') != text.npos) throw StoreError(errors::TypeMismatch, "Type mismatch");
-  if (limit != 0 && text.size() > limit && CharactersOf(text) > limit)
+  if (limit != 0 && text.size() > limit && CharacterCount(text) > limit)
     throw StoreError(errors::DataFieldTooSmall, "The field is too small for the value that was to be stored.");
   return text;
 }

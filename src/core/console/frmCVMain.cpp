@@ -1,6 +1,7 @@
 #include "core/console/frmCVMain.h"
 
 #include "admin/frmServiceAccount.h"
+#include "alarms/frmAlarms.h"
 #include "core/Browser.h"
 #include "core/LogTypes.h"
 #include "core/PassOver.h"
@@ -54,6 +55,7 @@ frmCVMain::frmCVMain(modMain& main)
   SetToolbar();
   SetLists();
   WireMenus();
+  WireEditMenu();
   WireOptionsMenu();
   WireControls();
 }
@@ -87,6 +89,7 @@ void frmCVMain::SetPictures() {
                                                             {&mnuHiddenSyslogDelete, "syslogdelete"},
                                                             {&mnuFileEventViewer, "eventviewer"},
                                                             {&mnuHiddenEventViewer, "eventviewer"},
+                                                            {&mnuEditDefineAlarms, "alarm"},
                                                             {&mnuViewRefresh, "refresh"},
                                                             {&mnuToolsDatabase, "database"},
                                                             {&mnuToolsViewLogEntries, "log"},
@@ -119,6 +122,8 @@ void frmCVMain::SetToolbar() {
   separate();
   add({"eventviewer", "Event Viewer", "Open the Event Viewer on the Selected Computer", "eventviewer"},
       [this] { mnuFileEventViewer_Click(); });
+  separate();
+  add({"alarm", "", "Define Alarms", "alarm"}, [this] { mnuEditDefineAlarms_Click(); });
   separate();
   add({"refresh", "Refresh", "Refresh the List", "refresh"}, [this] { mnuViewRefresh_Click(); });
   separate();
@@ -172,6 +177,10 @@ void frmCVMain::WireMenus() {
   mnuHelpUpgradeCheck.Click = [this] { CheckForUpgrades(main_); };
   mnuHelpCVHelpFile.Click = [this] { main_.Ui.ShowHelp(0); };
   mnuHelpAbout.Click = [this] { mnuHelpAbout_Click(); };
+}
+
+void frmCVMain::WireEditMenu() {
+  mnuEditDefineAlarms.Click = [this] { mnuEditDefineAlarms_Click(); };
 }
 
 void frmCVMain::WireOptionsMenu() {
@@ -359,6 +368,8 @@ void frmCVMain::mnuFileEventViewer_Click() {
   if (!PassOver([&] { main_.Platform.Launcher.Run("eventvwr " + lvwComputers.Item(row).Text); }))
     main_.Ui.MsgBox("The Event Viewer could not be started on this computer.", ui::MsgIcon::Exclamation);
 }
+
+void frmCVMain::mnuEditDefineAlarms_Click() { frmAlarms(main_).ShowModal(); }
 
 void frmCVMain::mnuViewRefresh_Click() {
   if (tabMain.Tab == SyslogTab)

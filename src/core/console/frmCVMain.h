@@ -34,6 +34,8 @@ class frmCVMain : public ui::Form, public MainWindow {
   ui::MenuItem mnuFileEventViewer{mnuFile, "mnuFileEventViewer", "Event &Viewer..."};
   ui::MenuItem mnuFileBar3{mnuFile, "mnuFileBar3", "-"};
   ui::MenuItem mnuFileExit{mnuFile, "mnuFileExit", "E&xit"};
+  ui::MenuItem mnuEdit{*this, "mnuEdit", "&Edit"};
+  ui::MenuItem mnuEditDefineAlarms{mnuEdit, "mnuEditDefineAlarms", "Define &Alarms..."};
   ui::MenuItem mnuView{*this, "mnuView", "&View"};
   ui::MenuItem mnuViewRefresh{mnuView, "mnuViewRefresh", "&Refresh"};
   ui::MenuItem mnuTools{*this, "mnuTools", "&Tools"};
@@ -113,6 +115,7 @@ class frmCVMain : public ui::Form, public MainWindow {
   void SetToolbar();
   void SetLists();
   void WireMenus();
+  void WireEditMenu();
   void WireOptionsMenu();
   void WireControls();
 
@@ -129,6 +132,7 @@ class frmCVMain : public ui::Form, public MainWindow {
   void mnuFileDelete_Click();
   void mnuFileSyslogDelete_Click();
   void mnuFileEventViewer_Click();
+  void mnuEditDefineAlarms_Click();
   void mnuViewRefresh_Click();
   void mnuToolsViewLogEntries_Click();
   void mnuOptions_Click();

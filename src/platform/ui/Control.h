@@ -73,4 +73,7 @@ class Control {
   ControlKind kind_;
 };
 
+/// Shows and enables controls that make up one face of a form, or hides and disables them.
+void ShowFace(const std::vector<Control*>& controls, bool shown);
+
 }  // namespace corvane::ui

@@ -15,6 +15,10 @@ Control::Control(Form& form, std::string_view name, ControlKind kind) : form_(fo
   form.controls_.push_back(this);
 }
 
+void ShowFace(const std::vector<Control*>& controls, bool shown) {
+  for (Control* control : controls) control->Visible = control->Enabled = shown;
+}
+
 Form::Form(UiHost& host, std::string_view name) : host_(host), name_(name) {}
 
 Form::~Form() {
