@@ -15,7 +15,7 @@ int LogNumber(std::string_view name);
 /// The name of a log number; empty outside 1 to 6.
 const std::string& LogName(int number);
 
-/// The same with one word of its own: it has always said "Directory Server" for 5. No list shows what it gives.
+/// The same with one word of its own, for the members of bundles: it has always said "Directory Server" for 5.
 std::string ConvNumToLogType(int number);
 
 /// The key of a watched log: the computer as it was entered, directly followed by the log number.
