@@ -72,7 +72,6 @@ TEST(BasicChoicesFile, TellsWhichRowBreaksARule) {
   for (CatalogueAlarm& any : catalogue.Alarms)
     if (any.EventId == -1) any.Name += " of Disks";
   EXPECT_EQ(told(rows), "c.txt:1: event ID -1 takes no alarm");
-  EXPECT_EQ(told(rows.substr(rows.find('\n') + 1)), "c.txt:1: event ID -1 takes no alarm");
 }
 
 }  // namespace corvane::test

@@ -44,17 +44,28 @@ TEST(ShippedCatalogue, NoEventMeetsTwoMembersOfABundle) {
             << bundle.Name << ": " << shipped.Alarms[bundle.Members[i]].Name;
 }
 
+TEST(ShippedCatalogue, AnOlderDatabaseGetsTheNewestClassAtTheStart) {
+  const std::string newest =
+      "SELECT * FROM OSTypes WHERE [Index] = 3; SELECT * FROM AlarmCategories WHERE OS = 3 ORDER BY [Index];"
+      "SELECT Name, Description, AlarmCategory, TypeMask, Source, EventID, EventDescription, ThresholdCount, "
+      "ThresholdTimeout FROM Alarms WHERE AlarmCategory LIKE '%_3' ORDER BY Name";
+  TestConsole console;
+  const std::string fresh = console.Rows(newest);
+  console.Rows(
+      "DELETE FROM Alarms WHERE AlarmCategory LIKE '%_3'; DELETE FROM AlarmCategories WHERE OS = 3;"
+      "DELETE FROM OSTypes WHERE [Index] = 3");
+  ASSERT_EQ(console.Rows(newest), "");
+  console.Start();
+  EXPECT_EQ(console.Rows(newest), fresh);
+  EXPECT_FALSE(std::filesystem::exists(console.Folder() / Installation::UpdateFile));
+}
+
 TEST(ShippedCatalogue, TheUpdateOfOlderDatabasesIsMadeFromIt) {
   const TempFolder place;
   const std::string made = place.Path() / "made.dat";
-  const auto run = [](const std::vector<std::string>& arguments) {
-    std::ostringstream ignored;
-    return InstallerCommand(data, {}, ignored, ignored).Run(arguments);
-  };
-  EXPECT_EQ(run({"--config-update"}), 2);
-  EXPECT_EQ(run({place.Path(), "--config-update", made}), 2);
-  EXPECT_EQ(run({"--config-update", place.Path()}), 1);
-  EXPECT_EQ(run({"--config-update", made}), 0);
+  std::ostringstream out;
+  ASSERT_EQ(InstallerCommand(data, {}, out, out).Run({"--config-update", made}), 0) << out.str();
+  EXPECT_EQ(InstallerCommand(data, {}, out, out).Run({"--config-update", made, place.Path()}), 2);
   EXPECT_EQ(ReadTextFile(made), ReadTextFile(data / Installation::UpdateFile))
       << "make it anew: corvane-install --config-update data/configupdate01.dat";
 }

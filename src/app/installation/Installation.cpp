@@ -74,6 +74,7 @@ void Installation::Fill(const fs::path& folder, Kind kind) const {
   CopyChoices(folder, catalogue);
   CopyFile(PlatformFile, folder);
   CopyFile(LabFile, folder);
+  CopyFile(UpdateFile, folder);
   CopyFolder(EventLogFolder, folder);
   CopyFolder(HelpFolder, folder);
   CopyProgram(folder);
