@@ -44,6 +44,9 @@ frmAlarmInformation::frmAlarmInformation(modMain& main, AlarmPlace& place)
   HelpContext = HelpTopic;
   SetCaptions();
   txtDescription.MaxLength = LongestComment;
+  // Of several lines to be read whole, but one line of text: a line break would end it in an export file.
+  txtDescription.MultiLine = true;
+  txtDescription.KeyPress = [](char32_t character) { return character != '\r' && character != '\n'; };
   lstCategory.Editable = true;
   lstOS.Click = [this] { TellFailure(main_, [this] { lstOS_Click(); }); };
   lstLogType.Click = [this] { TellFailure(main_, [this] { lstLogType_Click(); }); };

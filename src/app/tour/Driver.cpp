@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QRadioButton>
 #include <QTabWidget>
 #include <QTest>
@@ -41,8 +42,8 @@ QWidget* Driver::FindWidget(const QString& form, const QString& name) {
 void Driver::Click(const QString& form, const QString& name) {
   auto& widget = Find<QWidget>(form, name);
   if (!widget.isEnabled()) throw Failure(name.toStdString() + " is disabled");
-  // A choice takes clicks on its circle alone.
-  const bool isChoice = qobject_cast<QRadioButton*>(&widget) != nullptr;
+  // A choice takes clicks on its mark and its words alone, and may be wider.
+  const bool isChoice = qobject_cast<QRadioButton*>(&widget) || qobject_cast<QCheckBox*>(&widget);
   QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, isChoice ? QPoint(8, widget.height() / 2) : QPoint());
 }
 

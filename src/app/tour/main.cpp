@@ -9,6 +9,7 @@
 #include "app/assembly/InstalledPlatform.h"
 #include "app/assembly/RunConsole.h"
 #include "app/installation/Installation.h"
+#include "app/tour/AlarmCatalogue.h"
 #include "app/tour/Commands.h"
 #include "app/tour/FirstRun.h"
 #include "app/tour/HelpPictures.h"
@@ -23,6 +24,7 @@ using AddSteps = void (*)(corvane::tour::Script&);
 const std::map<std::string, AddSteps> Tours{{"first-run", corvane::tour::AddFirstRun},
                                             {"main-job", corvane::tour::AddMainJob},
                                             {"commands", corvane::tour::AddCommands},
+                                            {"alarm-catalogue", corvane::tour::AddAlarmCatalogue},
                                             {"help", corvane::tour::AddHelpPictures}};
 
 }  // namespace
@@ -31,7 +33,8 @@ const std::map<std::string, AddSteps> Tours{{"first-run", corvane::tour::AddFirs
 int main(int count, char** arguments) {
   QApplication application(count, arguments);
   if (count != 4 || Tours.count(arguments[1]) == 0) {
-    std::fprintf(stderr, "usage: corvane-tour first-run|main-job|commands|help INSTALLATION PICTURES\n");
+    std::fprintf(stderr,
+                 "usage: corvane-tour first-run|main-job|commands|alarm-catalogue|help INSTALLATION PICTURES\n");
     return 2;
   }
   const std::filesystem::path folder = arguments[2];

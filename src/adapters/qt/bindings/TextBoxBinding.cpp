@@ -1,8 +1,9 @@
 #include "adapters/qt/bindings/TextBoxBinding.h"
 
-#include <QEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QSignalBlocker>
 #include <algorithm>
 
 #include "adapters/qt/Text.h"
@@ -73,9 +74,31 @@ TextBinding::TextBinding(FormView& view, ui::TextBox& control, QPlainTextEdit* t
 
 void TextBinding::Changed() {
   if (!IsUsers()) return;
+  TakeOutRefused();
   control_.Text = shown_ = FromQt(text_->toPlainText().replace('\n', "\r\n"));
   NoteCaret();
   Fire(control_.Change);
+}
+
+// What was typed or pasted stands before the cursor; the characters that are too many are the last of it.
+void TextBinding::TakeOutRefused() {
+  QString text = text_->toPlainText();
+  int cursor = text_->textCursor().position();
+  if (control_.KeyPress) CharacterFilter(control_, nullptr).validate(text, cursor);
+  if (const int spare = control_.MaxLength > 0 ? static_cast<int>(text.size()) - control_.MaxLength : 0; spare > 0) {
+    text.remove(std::max(0, cursor - spare), spare);
+    cursor = std::max(0, cursor - spare);
+  }
+  if (text == text_->toPlainText()) return;
+  const QSignalBlocker quiet(text_);
+  text_->setPlainText(text);
+  QTextCursor place = text_->textCursor();
+  place.setPosition(std::min(cursor, static_cast<int>(text.size())));
+  text_->setTextCursor(place);
+}
+
+bool TextBinding::IsRefused(int key) const {
+  return (key == Qt::Key_Return || key == Qt::Key_Enter) && control_.KeyPress && !control_.KeyPress(U'\n');
 }
 
 void TextBinding::NoteCaret() {
@@ -85,7 +108,10 @@ void TextBinding::NoteCaret() {
 
 bool TextBinding::Filter(QEvent& event) {
   if (event.type() == QEvent::MouseButtonRelease) Postpone(control_.Click);
-  return false;
+  // Where Enter makes no line it presses the default button, as it does everywhere else.
+  if (event.type() != QEvent::KeyPress || !IsRefused(static_cast<const QKeyEvent&>(event).key())) return false;
+  event.ignore();
+  return true;
 }
 
 void TextBinding::Update() {

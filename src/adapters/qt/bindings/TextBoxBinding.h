@@ -38,6 +38,8 @@ class TextBinding : public Binding {
 
  private:
   void Changed();
+  void TakeOutRefused();
+  bool IsRefused(int key) const;
   void NoteCaret();
   void MoveCaret();
 

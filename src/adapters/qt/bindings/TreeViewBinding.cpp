@@ -1,8 +1,9 @@
 #include "adapters/qt/bindings/TreeViewBinding.h"
 
-#include <QAbstractItemDelegate>
 #include <QHeaderView>
 #include <QTreeView>
+
+#include "adapters/qt/bindings/LabelDelegate.h"
 
 namespace corvane::qt {
 
@@ -10,6 +11,7 @@ TreeViewBinding::TreeViewBinding(FormView& view, ui::TreeView& control, QTreeVie
     : ItemViewBinding(view, control, tree), control_(control), model_(control, tree) {
   tree->setModel(&model_);
   tree->setHeaderHidden(true);
+  tree->setItemDelegate(new LabelDelegate(tree));
   connect(tree->selectionModel(), &QItemSelectionModel::currentChanged, this, &TreeViewBinding::CurrentChanged);
   connect(tree, &QTreeView::expanded, this, [this](const QModelIndex& index) { Branched(index, true); });
   connect(tree, &QTreeView::collapsed, this, [this](const QModelIndex& index) { Branched(index, false); });
