@@ -1,4 +1,5 @@
 #include <QClipboard>
+#include <QPlainTextEdit>
 #include <QTreeWidget>
 
 #include "HostFixture.h"
@@ -55,6 +56,39 @@ TEST_F(HostTest, ABoxRefusesCharactersHoweverTheyCome) {
   other.txtName.IsPassword = true;
   other.Show();
   EXPECT_EQ(QLineEdit::Password, WidgetOf<QLineEdit>(other.txtName).echoMode());
+}
+
+TEST_F(HostTest, ABoxOfSeveralLinesTellsItsCaretAndRefusesLikeTheOthers) {
+  std::string order;
+  form.txtNotes.Text = "\xC3\xA4\r\nb";
+  form.txtNotes.Change = [&] { order += "change" + std::to_string(form.txtNotes.SelStart) + " "; };
+  form.txtNotes.Click = [&] { order += "click "; };
+  form.Show();
+  auto& edit = WidgetOf<QPlainTextEdit>(form.txtNotes);
+  edit.moveCursor(QTextCursor::End);
+  EXPECT_EQ(4, form.txtNotes.SelStart) << "a line break counts as two";
+  QTest::keyClicks(&edit, "c");
+  ClickAt(*edit.viewport(), MiddleOf(edit));
+  Serve();
+  EXPECT_EQ("change5 click ", order);
+  // Code that writes into the text leaves the caret where it was.
+  form.txtNotes.SelStart = 3;
+  InHandler([&] { form.txtNotes.Text.insert(4, "<TAB>"); });
+  EXPECT_EQ(2, edit.textCursor().position());
+  QTest::keyClick(&edit, Qt::Key_Return);
+  EXPECT_EQ("\xC3\xA4\r\n\r\n<TAB>bc", form.txtNotes.Text);
+  // What is too much of a paste is left out, and what stands behind it stays.
+  form.txtNotes.MaxLength = 6;
+  form.txtNotes.KeyPress = [](char32_t character) { return character != '\n'; };
+  InHandler([&] { form.txtNotes.Text = "abcd"; });
+  QGuiApplication::clipboard()->setText("1\n234");
+  edit.moveCursor(QTextCursor::Start);
+  edit.paste();
+  EXPECT_EQ("12abcd", form.txtNotes.Text);
+  EXPECT_EQ(2, edit.textCursor().position());
+  form.cmdOK.Click = [&] { form.Unload(); };
+  Key(form.txtNotes, Qt::Key_Return);
+  EXPECT_TRUE(form.IsUnloaded()) << "Enter that makes no line presses the default button";
 }
 
 TEST_F(HostTest, AContainerIsChosenFromItsTree) {

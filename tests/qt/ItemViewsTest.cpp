@@ -1,4 +1,5 @@
 #include <QHeaderView>
+#include <QLineEdit>
 
 #include "HostFixture.h"
 
@@ -145,6 +146,39 @@ TEST_F(ItemViewsTest, ATreeFollowsWhatItsFormDoesToIt) {
     form.tvTree.Add(0, "new", "new", "");
   });
   EXPECT_EQ("new ", Nodes());
+}
+
+// What is typed arrives before the click that ends the typing; a label that nobody may change is left alone.
+TEST_F(ItemViewsTest, ALabelIsChangedInItsPlaceWhenTheFormAsksForIt) {
+  std::string order;
+  const ui::NodeId node = form.tvTree.Add(0, "a", "a", "alarm");
+  form.tvTree.Select(node);
+  form.tvTree.AfterLabelEdit = [&](ui::NodeId edited, const std::string& text) {
+    order += std::to_string(edited - node) + text + " ";
+    return text != "no";
+  };
+  form.Show();
+  const auto edit = [&](const char* text, auto end) {
+    InHandler([&] { form.tvTree.StartLabelEdit(node); });
+    auto* line = Tree().findChild<QLineEdit*>();
+    ASSERT_NE(nullptr, line);
+    EXPECT_EQ(form.tvTree.Node(node).Text, line->text().toStdString());
+    line->setText(text);
+    form.cmdOK.Click = [&] { order += "OK "; };
+    end(*line);
+    Serve(20);
+    EXPECT_EQ(0, form.tvTree.EditedNode());
+  };
+  const auto key = [](Qt::Key which) { return [which](QLineEdit& line) { QTest::keyClick(&line, which); }; };
+  edit("b", key(Qt::Key_Return));
+  edit("no", key(Qt::Key_Enter));
+  edit("c", key(Qt::Key_Escape));
+  EXPECT_EQ("b* ", Nodes());
+  edit("c", [&](QLineEdit&) { Click(form.cmdOK); });
+  EXPECT_EQ("c* ", Nodes());
+  EXPECT_EQ("0b 0no 0c OK ", order);
+  Tree().edit(Tree().model()->index(0, 0));
+  EXPECT_EQ(nullptr, Tree().findChild<QLineEdit*>());
 }
 
 TEST_F(ItemViewsTest, DraggingDropsOnNamedTargetsOnly) {

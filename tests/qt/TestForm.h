@@ -23,6 +23,7 @@ class frmTest : public ui::Form {
     lblName.Caption = "&Name";
     lstLog.Editable = false;
     tmrTick.Enabled = false;
+    txtNotes.MultiLine = true;
     optSource[0].Index = 0;
     optSource[1].Index = 1;
     cmdOK.Click = cmdCancel.Click = [this] { Unload(); };
@@ -39,6 +40,7 @@ class frmTest : public ui::Form {
   ui::Timer tmrTick{*this, "tmrTick"};
   std::array<ui::OptionButton, 2> optSource{ui::OptionButton{*this, "optSource"}, ui::OptionButton{*this, "optSource"}};
   ui::CheckBox chkAll{*this, "chkAll"};
+  ui::TextBox txtNotes{*this, "txtNotes"};
 };
 
 /// A form with a menu, so that it becomes a main window.
