@@ -76,6 +76,48 @@ TEST_F(AlarmTreeTest, ReadsAfreshAtEveryOpeningAndKeepsNothingClosed) {
   EXPECT_EQ(3 * 2, View.Count());
 }
 
+// Filled whole it holds every level with the same keys, and nothing is there to be replaced when a branch is opened.
+TEST_F(AlarmTreeTest, FillsAllLevelsAtOnceWithoutDummies) {
+  Tree.FillWhole();
+  std::string expected = ReadTextFile(CORVANE_SOURCE_DIR "/tests/alarms/Tree.txt");
+  for (std::size_t at; (at = expected.find("DUMMYNODE")) != expected.npos;)
+    expected.erase(expected.rfind('\n', at) + 1, expected.find('\n', at) - expected.rfind('\n', at));
+  const auto add = [&](const std::string& below, const std::string& line) {
+    const std::size_t end = expected.find('\n', expected.find(below));
+    expected.insert(end + 1, line + "\n");
+  };
+  add("LOGTYPE\\2\\1 ", "    ALARMCAT\\2\\Elsewhere_2 | Elsewhere | alarmcat");
+  add("LOGTYPE\\1\\2 ", "    ALARMCAT\\1\\Disk Errors_1 | Disk Errors | alarmcat");
+  EXPECT_EQ(expected, Below(""));
+}
+
+TEST_F(AlarmTreeTest, GivesTheAlarmsThatAPickedNodeStandsFor) {
+  for (const std::string& key : {OS, System}) Open(key);
+  const auto picked = [&](const std::string& key) {
+    std::string all;
+    Tree.ForEachPicked(At(key), [&](const std::string& name, const std::string& os) { all += name + "@" + os + " "; });
+    return all;
+  };
+  EXPECT_EQ("", picked(OS) + picked(System)) << "only alarms and categories stand for alarms";
+  EXPECT_EQ("bad block@Windows 2000/XP/2003 Disk full@Windows 2000/XP/2003 ", picked(Disk)) << "read though it is shut";
+  EXPECT_EQ("bad block@Windows 2000/XP/2003 ", picked(Alarm + "bad block"));
+  Console.Rows("DELETE FROM Alarms WHERE AlarmCategory = 'backup''s_2'");
+  EXPECT_EQ("", picked(Backups));
+}
+
+TEST_F(AlarmTreeTest, ARefreshedBranchIsFreshAndOpen) {
+  Open(OS);
+  for (const bool wasOpen : {false, true}) {
+    Console.Rows("INSERT INTO AlarmCategories VALUES ('New" + std::to_string(wasOpen) + "_2', 'New', 2, 2)");
+    Tree.Refresh(At(System));
+    EXPECT_TRUE(View.Node(At(System)).Expanded);
+    EXPECT_EQ(wasOpen ? 4U : 3U, Children(System).size());
+  }
+  Tree.Refresh(At(Disk));
+  Tree.Refresh(At(Alarm + "bad block"));
+  EXPECT_EQ(2U, Children(Disk).size());
+}
+
 TEST_F(AlarmTreeTest, KeepsTheNodesAddedBeforeAFailure) {
   // A row that cannot be read stands between the second log and the third.
   Console.Rows("INSERT INTO LogTypes VALUES (NULL, 'Disk')");

@@ -56,6 +56,7 @@ class ConfigUpdate : public ConfigDatabase {
     modMain main(ports);
     if (isOld) console.Rows("DELETE FROM OSTypes WHERE [Index] = 3");
     const auto place = console.Folder() / "configupdate01.dat";
+    std::filesystem::remove(place);
     if (file) std::ofstream(place, std::ios::binary) << *file;
     main.InitGlobals();
     OpenConfigDatabase(main);
