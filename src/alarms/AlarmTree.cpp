@@ -74,8 +74,8 @@ void AlarmTree::Collapse(ui::NodeId node) {
   const std::vector<ui::NodeId> children = tree_.ChildrenOf(node);
   AddDummy(node);
   const ui::NodeId dummy = tree_.Find(DummyKey(key));
-  for (const ui::NodeId child : children)
-    if (child != dummy) tree_.Remove(child);
+  for (auto child = children.rbegin(); child != children.rend(); ++child)
+    if (*child != dummy) tree_.Remove(*child);
 }
 
 // The two handlers of a branch do it, so a branch that is closed is opened first.

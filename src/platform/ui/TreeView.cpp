@@ -1,5 +1,7 @@
 #include "platform/ui/TreeView.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "platform/RuntimeError.h"
@@ -17,9 +19,11 @@ NodeId TreeView::Add(NodeId parent, std::string key, std::string text, std::stri
   return id;
 }
 
+// A branch is mostly emptied from its end.
 void TreeView::Remove(NodeId node) {
   const NodeId parent = Node(node).Parent;
-  std::erase(parent == 0 ? roots_ : At(parent).Children, node);
+  std::vector<NodeId>& level = parent == 0 ? roots_ : At(parent).Children;
+  level.erase(std::prev(std::find(level.rbegin(), level.rend(), node).base()));
   Forget(node);
   ++structure_;
 }
