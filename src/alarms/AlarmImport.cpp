@@ -1,5 +1,6 @@
 #include "alarms/AlarmImport.h"
 
+#include "alarms/AlarmNumber.h"
 #include "alarms/ImportFile.h"
 #include "core/SqlText.h"
 #include "core/modMain.h"
@@ -19,19 +20,11 @@ bool IsNullWhenEmpty(std::string_view column) {
 
 void AlarmImport::Import(const std::string& text) {
   const ExchangeLine line(text);
-  const std::string existing = FindAlarmID(line);
+  const std::string existing = FindAlarmID(main_, line[alarmfield::Name], line[alarmfield::Category]);
   if (!existing.empty() && !MayOverwrite(line[alarmfield::Name])) return;
   WriteAlarm(line, existing);
   ImportCategory(line[alarmfield::Category]);
   ImportBundleLinks(line);
-}
-
-// Empty when the catalogue has none of this name in this category.
-std::string AlarmImport::FindAlarmID(const ExchangeLine& line) {
-  const auto alarm =
-      main_.ConfigConnection->Execute("SELECT * FROM Alarms WHERE Name = " + QuoteSqlText(line[alarmfield::Name]) +
-                                      " AND AlarmCategory = " + QuoteSqlText(line[alarmfield::Category]));
-  return alarm->Eof() ? std::string() : ToText(alarm->Field("AlarmID"));
 }
 
 bool AlarmImport::MayOverwrite(const std::string& name) {
@@ -79,7 +72,7 @@ void AlarmImport::ImportBundleLinks(const ExchangeLine& line) {
 
 // The first line that begins with the name stands for the alarm, and of its bundles only the first one counts.
 void AlarmImport::LinkToBundle(const ExchangeLine& line) {
-  const std::string alarm = FindAlarmID(line);
+  const std::string alarm = FindAlarmID(main_, line[alarmfield::Name], line[alarmfield::Category]);
   const std::string bundleName = file_.FindBundle(file_.FindAlarm(line[alarmfield::Name]));
   if (bundleName.empty()) return;
   const std::string bundle = FindOrAddBundle(bundleName);

@@ -23,7 +23,6 @@ class AlarmImport {
   void Import(const std::string& text);
 
  private:
-  std::string FindAlarmID(const ExchangeLine& line);
   bool MayOverwrite(const std::string& name);
   void WriteAlarm(const ExchangeLine& line, const std::string& existingId);
   void ImportCategory(const std::string& index);

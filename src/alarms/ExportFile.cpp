@@ -3,10 +3,12 @@
 #include <initializer_list>
 #include <vector>
 
+#include "alarms/AlarmNumber.h"
 #include "alarms/ChosenTree.h"
 #include "alarms/ExchangeLine.h"
 #include "core/SqlText.h"
 #include "core/modMain.h"
+#include "platform/RuntimeError.h"
 
 namespace corvane {
 namespace {
@@ -33,10 +35,16 @@ void ExportFile::Write(const ui::TreeView& chosen) {
     else if (chosenkey::IsMember(node.Key))
       WriteMember(node.Key);
     else
-      singles.push_back(FindAlarmID(node.Text, chosenkey::CategoryIndex(node.Key)));
+      singles.push_back(IdOfSingle(node.Text, chosenkey::CategoryIndex(node.Key)));
   }
   for (const std::string& alarm : singles)
     if (AlarmLineMissing(alarm)) WriteAlarmLine(alarm);
+}
+
+std::string ExportFile::IdOfSingle(const std::string& name, const std::string& categoryIndex) {
+  std::string id = FindAlarmID(main_, name, categoryIndex);
+  if (id.empty()) throw RuntimeError(errors::DataNoRow, "The alarm " + name + " is not in the catalogue any more.");
+  return id;
 }
 
 // An alarm of two bundles gets a line for each.
@@ -64,12 +72,6 @@ void ExportFile::WriteCategoryLine(const std::string& index) {
 bool ExportFile::AlarmLineMissing(const std::string& alarmId) {
   const auto alarm = main_.ConfigConnection->Execute(AlarmQuery(alarmId));
   return FindPrefix(alarms_.Lines(), JoinFields(*alarm, std::span(AlarmColumns).first(FieldsOfIdentity))) == 0;
-}
-
-std::string ExportFile::FindAlarmID(const std::string& name, const std::string& categoryIndex) {
-  const auto alarm = main_.ConfigConnection->Execute("SELECT * FROM Alarms WHERE Name = " + QuoteSqlText(name) +
-                                                     " AND AlarmCategory = " + QuoteSqlText(categoryIndex));
-  return ToText(alarm->Field("AlarmID"));
 }
 
 // A line break within a text makes lines of their own out of what follows, in any section.

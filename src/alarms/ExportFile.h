@@ -23,11 +23,11 @@ class ExportFile {
   void Write(const ui::TreeView& chosen);
 
  private:
+  std::string IdOfSingle(const std::string& name, const std::string& categoryIndex);
   void WriteMember(const std::string& key);
   int WriteAlarmLine(const std::string& alarmId);
   void WriteCategoryLine(const std::string& index);
   bool AlarmLineMissing(const std::string& alarmId);
-  std::string FindAlarmID(const std::string& name, const std::string& categoryIndex);
   int Append(ExchangeSection& section, const std::string& line);
 
   modMain& main_;

@@ -34,6 +34,9 @@ frmAlarmExport::frmAlarmExport(modMain& main)
 
 void frmAlarmExport::SetCaptions() {
   Caption = "Export Alarms and Alarm Bundles";
+  lblInfo.Caption =
+      "Choose a file, and then the alarms and alarm bundles to write into it.  The file can be imported on any other "
+      "installation of Corvane, as long as it does not exceed 30000 bytes.";
   lblFile.Caption = "&File:";
   cmdBrowse.Caption = "&Browse...";
   lblAlarms.Caption = "A&vailable Alarms";

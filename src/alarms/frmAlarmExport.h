@@ -16,6 +16,7 @@ class frmAlarmExport : public ui::Form {
  public:
   explicit frmAlarmExport(modMain& main);
 
+  ui::Label lblInfo{*this, "lblInfo"};
   ui::Label lblFile{*this, "lblFile"};
   ui::TextBox txtFile{*this, "txtFile"};
   ui::CommandButton cmdBrowse{*this, "cmdBrowse"};

@@ -71,6 +71,8 @@ frmAlarmImport::frmAlarmImport(modMain& main) : Form(main.Ui, "frmAlarmImport"),
 
 void frmAlarmImport::SetCaptions() {
   Caption = "Import Alarms and Alarm Bundles";
+  lblInfo.Caption =
+      "Choose a file that was exported by Corvane, and remove the alarms from the list that you do not want to import.";
   lblFile.Caption = "&File:";
   cmdBrowse.Caption = "&Browse...";
   lblItemsToImport.Caption = "&Alarms to Import";
@@ -99,8 +101,8 @@ void frmAlarmImport::WireHandlers() {
 }
 
 void frmAlarmImport::ShowListFace(bool shown) {
-  ui::ShowFace({&lblFile, &txtFile, &cmdBrowse, &lblItemsToImport, &lvwItemsToImport, &cmdView, &cmdDelete, &cmdImport,
-                &cmdCancel},
+  ui::ShowFace({&lblInfo, &lblFile, &txtFile, &cmdBrowse, &lblItemsToImport, &lvwItemsToImport, &cmdView, &cmdDelete,
+                &cmdImport, &cmdCancel},
                shown);
   ui::ShowFace({&fraAlarmProps, &cmdAbandon}, !shown);
   for (auto* labels : {&lblTitle, &lblField})

@@ -19,6 +19,7 @@ class frmAlarmImport : public ui::Form {
  public:
   explicit frmAlarmImport(modMain& main);
 
+  ui::Label lblInfo{*this, "lblInfo"};
   ui::Label lblFile{*this, "lblFile"};
   ui::TextBox txtFile{*this, "txtFile"};
   ui::CommandButton cmdBrowse{*this, "cmdBrowse"};
