@@ -1,6 +1,9 @@
 #include "core/console/frmCVMain.h"
 
 #include "admin/frmServiceAccount.h"
+#include "alarms/frmAlarmExport.h"
+#include "alarms/frmAlarmGroups.h"
+#include "alarms/frmAlarmImport.h"
 #include "alarms/frmAlarms.h"
 #include "core/Browser.h"
 #include "core/LogTypes.h"
@@ -90,6 +93,9 @@ void frmCVMain::SetPictures() {
                                                             {&mnuFileEventViewer, "eventviewer"},
                                                             {&mnuHiddenEventViewer, "eventviewer"},
                                                             {&mnuEditDefineAlarms, "alarm"},
+                                                            {&mnuEditDefineAlarmGroups, "alarmgroup"},
+                                                            {&mnuEditExport, "exportalarms"},
+                                                            {&mnuEditImport, "importalarms"},
                                                             {&mnuViewRefresh, "refresh"},
                                                             {&mnuToolsDatabase, "database"},
                                                             {&mnuToolsViewLogEntries, "log"},
@@ -124,6 +130,9 @@ void frmCVMain::SetToolbar() {
       [this] { mnuFileEventViewer_Click(); });
   separate();
   add({"alarm", "", "Define Alarms", "alarm"}, [this] { mnuEditDefineAlarms_Click(); });
+  add({"alarmgroups", "", "Define Alarm Bundles", "alarmgroup"}, [this] { mnuEditDefineAlarmGroups_Click(); });
+  add({"exportalarms", "", "Export Alarms", "exportalarms"}, [this] { mnuEditExport_Click(); });
+  add({"importalarms", "", "Import Alarms", "importalarms"}, [this] { mnuEditImport_Click(); });
   separate();
   add({"refresh", "Refresh", "Refresh the List", "refresh"}, [this] { mnuViewRefresh_Click(); });
   separate();
@@ -181,6 +190,9 @@ void frmCVMain::WireMenus() {
 
 void frmCVMain::WireEditMenu() {
   mnuEditDefineAlarms.Click = [this] { mnuEditDefineAlarms_Click(); };
+  mnuEditDefineAlarmGroups.Click = [this] { mnuEditDefineAlarmGroups_Click(); };
+  mnuEditExport.Click = [this] { mnuEditExport_Click(); };
+  mnuEditImport.Click = [this] { mnuEditImport_Click(); };
 }
 
 void frmCVMain::WireOptionsMenu() {
@@ -370,6 +382,12 @@ void frmCVMain::mnuFileEventViewer_Click() {
 }
 
 void frmCVMain::mnuEditDefineAlarms_Click() { frmAlarms(main_).ShowModal(); }
+
+void frmCVMain::mnuEditDefineAlarmGroups_Click() { frmAlarmGroups(main_).ShowModal(); }
+
+void frmCVMain::mnuEditExport_Click() { frmAlarmExport(main_).ShowModal(); }
+
+void frmCVMain::mnuEditImport_Click() { frmAlarmImport(main_).ShowModal(); }
 
 void frmCVMain::mnuViewRefresh_Click() {
   if (tabMain.Tab == SyslogTab)

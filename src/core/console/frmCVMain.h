@@ -36,6 +36,10 @@ class frmCVMain : public ui::Form, public MainWindow {
   ui::MenuItem mnuFileExit{mnuFile, "mnuFileExit", "E&xit"};
   ui::MenuItem mnuEdit{*this, "mnuEdit", "&Edit"};
   ui::MenuItem mnuEditDefineAlarms{mnuEdit, "mnuEditDefineAlarms", "Define &Alarms..."};
+  ui::MenuItem mnuEditDefineAlarmGroups{mnuEdit, "mnuEditDefineAlarmGroups", "Define Alarm &Bundles..."};
+  ui::MenuItem mnuEditBar1{mnuEdit, "mnuEditBar1", "-"};
+  ui::MenuItem mnuEditExport{mnuEdit, "mnuEditExport", "Ex&port Alarms..."};
+  ui::MenuItem mnuEditImport{mnuEdit, "mnuEditImport", "&Import Alarms..."};
   ui::MenuItem mnuView{*this, "mnuView", "&View"};
   ui::MenuItem mnuViewRefresh{mnuView, "mnuViewRefresh", "&Refresh"};
   ui::MenuItem mnuTools{*this, "mnuTools", "&Tools"};
@@ -133,6 +137,9 @@ class frmCVMain : public ui::Form, public MainWindow {
   void mnuFileSyslogDelete_Click();
   void mnuFileEventViewer_Click();
   void mnuEditDefineAlarms_Click();
+  void mnuEditDefineAlarmGroups_Click();
+  void mnuEditExport_Click();
+  void mnuEditImport_Click();
   void mnuViewRefresh_Click();
   void mnuToolsViewLogEntries_Click();
   void mnuOptions_Click();
