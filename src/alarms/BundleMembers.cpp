@@ -16,7 +16,7 @@ constexpr std::string_view KeyPrefix = "ID_";
 
 BundleMembers::BundleMembers(modMain& main, ui::TreeView& picker, ui::ListView& members)
     : main_(main), picker_(picker), members_(members), catalogue_(main, picker) {
-  members_.Columns = {{"Name", 2700, false}, {"Category", 2250, false}, {"Log Type", 1650, false}, {"OS", 2700, false}};
+  members_.Columns = {{"Name", 3000, false}, {"Category", 2175, false}, {"Log Type", 1800, false}, {"OS", 2175, false}};
   picker_.DragTargets = {&members_};
   picker_.Expand = [this](ui::NodeId node) { TellFailure(main_, [&] { catalogue_.Expand(node); }); };
   picker_.Collapse = [this](ui::NodeId node) { TellFailure(main_, [&] { catalogue_.Collapse(node); }); };

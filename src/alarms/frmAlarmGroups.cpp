@@ -59,6 +59,7 @@ void frmAlarmGroups::WireHandlers() {
 
 bool frmAlarmGroups::Form_Load() {
   TellFailure(main_, [this] { FillBundles(); });
+  if (tvAlarmGroups.Count() > 0) tvAlarmGroups.Select(tvAlarmGroups.Roots().front());
   return true;
 }
 
