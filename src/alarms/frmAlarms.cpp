@@ -13,12 +13,6 @@ namespace corvane {
 namespace {
 
 constexpr int HelpTopic = 300;
-constexpr int LongestSource = 250;
-constexpr int LongestName = 255;
-constexpr int LongestNumber = 12;
-constexpr int LeastThreshold = 2;
-enum Match { Contains = 0, Exactly = 1 };
-constexpr const char* NoNotification = "<NONE>";
 constexpr const char* RefusedInCategories = "'\\\"";
 
 constexpr const char* TreeInstructions =
@@ -32,14 +26,19 @@ bool Holds(const std::string& key, const char* prefix) { return key.find(prefix)
 
 }  // namespace
 
-frmAlarms::frmAlarms(modMain& main) : Form(main.Ui, "frmAlarms"), main_(main), tree_(main, tvAlarms) {
+frmAlarms::frmAlarms(modMain& main)
+    : Form(main.Ui, "frmAlarms"),
+      main_(main),
+      tree_(main, tvAlarms),
+      fields_(main, {chkType, txtSource, txtCategory, txtUser, txtComputer, txtEventID, optMatchEntireDescription,
+                     txtEventDesc, cmdCRLF, cmdTab, txtThreshold, txtTimeout, lstSpecificNotification}) {
   HelpContext = HelpTopic;
   Caption = "Define Alarms";
   SetTreeCaptions();
   SetFieldCaptions();
-  SetLimits();
   WireTree();
-  WireFields();
+  cmdSave.Click = [this] { TellFailure(main_, [this] { cmdSave_Click(); }); };
+  cmdAbandon.Click = [this] { cmdAbandon_Click(); };
   ShowTreeFace(true);
 }
 
@@ -56,10 +55,7 @@ void frmAlarms::SetTreeCaptions() {
 void frmAlarms::SetFieldCaptions() {
   fraTypes.Caption = "Event Types";
   const char* types[] = {"Inform&ation", "&Warning", "&Error", "&Failure Audit", "S&uccess Audit"};
-  for (std::size_t i = 0; i < chkType.size(); ++i) {
-    chkType[i].Index = static_cast<int>(i);
-    chkType[i].Caption = types[i];
-  }
+  for (std::size_t i = 0; i < chkType.size(); ++i) chkType[i].Caption = types[i];
   fraCriteria.Caption = "Criteria";
   lblSource.Caption = "&Source:";
   lblCategory.Caption = "Cate&gory:";
@@ -67,9 +63,8 @@ void frmAlarms::SetFieldCaptions() {
   lblComputer.Caption = "&Computer:";
   lblEventID.Caption = "Event &ID:";
   fraEventDesc.Caption = "Description";
-  for (const int match : {Contains, Exactly}) optMatchEntireDescription[static_cast<std::size_t>(match)].Index = match;
-  optMatchEntireDescription[Contains].Caption = "C&ontains:";
-  optMatchEntireDescription[Exactly].Caption = "&Match Description Exactly:";
+  optMatchEntireDescription[0].Caption = "C&ontains:";
+  optMatchEntireDescription[1].Caption = "&Match Description Exactly:";
   cmdCRLF.Caption = "Insert CR&LF";
   cmdTab.Caption = "I&nsert TAB";
   fraThreshold.Caption = "Threshold and Notification";
@@ -80,13 +75,6 @@ void frmAlarms::SetFieldCaptions() {
   lblSpecificNotification.Caption = "S&pecific Notification:";
   cmdSave.Caption = "Sa&ve";
   cmdAbandon.Caption = "Cancel";
-}
-
-void frmAlarms::SetLimits() {
-  txtSource.MaxLength = LongestSource;
-  txtUser.MaxLength = txtComputer.MaxLength = LongestName;
-  txtEventID.MaxLength = txtThreshold.MaxLength = txtTimeout.MaxLength = LongestNumber;
-  txtEventDesc.MultiLine = true;
 }
 
 void frmAlarms::WireTree() {
@@ -104,14 +92,6 @@ void frmAlarms::WireTree() {
   cmdEdit.Click = [this] { cmdEdit_Click(); };
   cmdDelete.Click = [this] { TellFailure(main_, [this] { cmdDelete_Click(); }); };
   cmdCancel.Click = [this] { Unload(); };
-}
-
-void frmAlarms::WireFields() {
-  txtEventDesc.Change = txtEventDesc.Click = [this] { txtEventDesc_Change(); };
-  cmdCRLF.Click = [this] { InsertMarker("<CRLF>"); };
-  cmdTab.Click = [this] { InsertMarker("<TAB>"); };
-  cmdSave.Click = [this] { TellFailure(main_, [this] { cmdSave_Click(); }); };
-  cmdAbandon.Click = [this] { cmdAbandon_Click(); };
 }
 
 void frmAlarms::ShowTreeFace(bool shown) {
@@ -279,101 +259,22 @@ std::string frmAlarms::ParentIndex(ui::NodeId node) const {
 }
 
 void frmAlarms::OpenFields(EditMode mode) {
-  ClearAlarmFields();
-  FillNotificationList();
+  fields_.ClearAlarmFields();
+  fields_.FillNotificationList();
   if (mode == EditMode::Editing) LoadAlarmFields();
   mode_ = mode;
   ShowTreeFace(false);
   main_.Ui.SetFocus(chkType.front());
 }
 
-void frmAlarms::ClearAlarmFields() {
-  for (ui::TextBox* box :
-       {&txtSource, &txtCategory, &txtUser, &txtComputer, &txtEventID, &txtEventDesc, &txtThreshold, &txtTimeout})
-    box->Text.clear();
-  for (ui::CheckBox& type : chkType) type.Value = false;
-  ui::ChooseOption(optMatchEntireDescription, Contains);
-  txtEventDesc.SelStart = 0;
-  txtEventDesc_Change();
-}
-
-void frmAlarms::FillNotificationList() {
-  lstSpecificNotification.Clear();
-  lstSpecificNotification.AddItem(NoNotification);
-  lstSpecificNotification.SetListIndex(0);
-  const auto rows = main_.Platform.Data.NewRecordset();
-  rows->Open("SELECT Name FROM Notifications ORDER BY Name ASC", *main_.ConfigConnection, CursorType::ForwardOnly,
-             LockType::ReadOnly);
-  for (; !rows->Eof(); rows->MoveNext()) lstSpecificNotification.AddItem(NullToEmpty(rows->Field("Name")));
-}
-
 void frmAlarms::LoadAlarmFields() {
   const ui::NodeId node = tvAlarms.Selected();
   const auto alarm = ReadAlarm(main_, tvAlarms.Node(node).Text, ParentIndex(node));
-  if (!alarm) return;
-  for (std::size_t bit = 0; bit < chkType.size(); ++bit) chkType[bit].Value = (alarm->TypeMask & (1 << bit)) != 0;
-  txtSource.Text = alarm->Source;
-  txtCategory.Text = alarm->Category;
-  txtUser.Text = alarm->User;
-  txtComputer.Text = alarm->Computer;
-  txtEventID.Text = alarm->EventID;
-  txtEventDesc.Text = alarm->EventDescription;
-  ui::ChooseOption(optMatchEntireDescription, alarm->MatchEntireDescription ? Exactly : Contains);
-  txtThreshold.Text = alarm->ThresholdCount;
-  txtTimeout.Text = alarm->ThresholdTimeout;
-  // A notification that is gone leaves the alarm without one.
-  if (const int entry = lstSpecificNotification.IndexOf(alarm->NotificationName); entry >= 0)
-    lstSpecificNotification.SetListIndex(entry);
-}
-
-void frmAlarms::txtEventDesc_Change() { caret_ = txtEventDesc.SelStart; }
-
-// The caret's place is that of the last change or click, wherever the keyboard has moved it since.
-void frmAlarms::InsertMarker(const std::string& marker) {
-  const std::size_t place = BytesOfCharacters(txtEventDesc.Text, static_cast<std::size_t>(caret_));
-  txtEventDesc.Text.insert(place, marker);
-  txtEventDesc_Change();
-}
-
-AlarmCriteria frmAlarms::Criteria() const {
-  AlarmCriteria alarm;
-  for (std::size_t bit = 0; bit < chkType.size(); ++bit) alarm.TypeMask += chkType[bit].Value ? 1 << bit : 0;
-  alarm.Source = txtSource.Text;
-  alarm.Category = txtCategory.Text;
-  alarm.User = txtUser.Text;
-  alarm.Computer = txtComputer.Text;
-  alarm.EventID = txtEventID.Text;
-  alarm.EventDescription = txtEventDesc.Text;
-  alarm.MatchEntireDescription = optMatchEntireDescription[Exactly].Value;
-  alarm.ThresholdCount = txtThreshold.Text;
-  alarm.ThresholdTimeout = txtTimeout.Text;
-  if (lstSpecificNotification.Text() != NoNotification) alarm.NotificationName = lstSpecificNotification.Text();
-  return alarm;
-}
-
-bool frmAlarms::ValidateThresholds() {
-  if (txtThreshold.Text.empty() && txtTimeout.Text.empty()) return true;
-  if (txtThreshold.Text.empty() || txtTimeout.Text.empty())
-    return Refuse("If you specfify a threshold timeout, you must also specify a threshold limit and vice versa.",
-                  txtTimeout);
-  const auto limit = ParseNumber(txtThreshold.Text), timeout = ParseNumber(txtTimeout.Text);
-  if (!limit || !timeout) return Refuse("Your threshold limit and threshold timeouts must be numbers.", txtThreshold);
-  if (*limit < LeastThreshold || *timeout < LeastThreshold)
-    return Refuse(
-        "Your threshold limit and timeout must be greater than 1.  If you want to detect all of these types of events, "
-        "regardless of frequency, leave both threshold fields blank.",
-        txtThreshold);
-  return true;
-}
-
-bool frmAlarms::Refuse(const std::string& why, ui::TextBox& box) {
-  main_.Ui.MsgBox(why, ui::MsgIcon::Exclamation);
-  main_.Ui.SetFocus(box);
-  return false;
+  if (alarm) fields_.LoadAlarmFields(*alarm);
 }
 
 void frmAlarms::cmdSave_Click() {
-  if (mode_ == EditMode::None || !ValidateThresholds()) return;
+  if (mode_ == EditMode::None || !fields_.ValidateThresholds()) return;
   frmAlarmInformation information(main_, place_);
   information.InitForm(tvAlarms);
   information.ShowModal();
@@ -385,9 +286,9 @@ void frmAlarms::Save() {
   const ui::NodeId node = tvAlarms.Selected();
   TellFailure(main_, [&] {
     if (mode_ == EditMode::Adding)
-      InsertAlarm(main_, Criteria(), place_);
+      InsertAlarm(main_, fields_.Criteria(), place_);
     else
-      UpdateAlarm(main_, Criteria(), place_, tvAlarms.Node(node).Text, ParentIndex(node));
+      UpdateAlarm(main_, fields_.Criteria(), place_, tvAlarms.Node(node).Text, ParentIndex(node));
   });
   cmdAbandon_Click();
   if (node == 0) return;

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "alarms/Alarm.h"
+#include "alarms/AlarmFields.h"
 #include "alarms/AlarmTree.h"
 #include "platform/ui/Form.h"
 #include "platform/ui/ListControls.h"
@@ -71,9 +72,7 @@ class frmAlarms : public ui::Form {
 
   void SetTreeCaptions();
   void SetFieldCaptions();
-  void SetLimits();
   void WireTree();
-  void WireFields();
   void ShowTreeFace(bool shown);
 
   void tvAlarms_NodeClick(ui::NodeId node);
@@ -81,18 +80,11 @@ class frmAlarms : public ui::Form {
   void cmdAdd_Click();
   void cmdEdit_Click();
   void cmdDelete_Click();
-  void txtEventDesc_Change();
-  void InsertMarker(const std::string& marker);
   void cmdSave_Click();
   void cmdAbandon_Click();
 
   void OpenFields(EditMode mode);
-  void ClearAlarmFields();
-  void FillNotificationList();
   void LoadAlarmFields();
-  AlarmCriteria Criteria() const;
-  bool ValidateThresholds();
-  bool Refuse(const std::string& why, ui::TextBox& box);
   void Save();
 
   void Rename(ui::NodeId node, const std::string& name);
@@ -103,12 +95,11 @@ class frmAlarms : public ui::Form {
 
   modMain& main_;
   AlarmTree tree_;
+  AlarmFields fields_;
   EditMode mode_ = EditMode::None;
   AlarmPlace place_;
   /// The key of the node that was selected when Add was pressed, or of the category whose name is being changed.
   std::string rememberedKey_;
-  /// Where the caret stood in the description at the last change or click.
-  int caret_ = 0;
 };
 
 }  // namespace corvane
