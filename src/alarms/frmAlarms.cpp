@@ -6,8 +6,6 @@
 #include "alarms/TellFailure.h"
 #include "alarms/frmAlarmInformation.h"
 #include "core/PassOver.h"
-#include "core/SqlText.h"
-#include "platform/Conversions.h"
 
 namespace corvane {
 namespace {
@@ -94,38 +92,11 @@ void frmAlarms::WireTree() {
   cmdCancel.Click = [this] { Unload(); };
 }
 
+// The instructions stand on both faces; behind them come the controls of the tree, then those of the fields.
 void frmAlarms::ShowTreeFace(bool shown) {
-  ui::ShowFace({&tvAlarms, &lblDescription, &txtDescription, &cmdAdd, &cmdEdit, &cmdDelete, &cmdCancel}, shown);
-  ui::ShowFace({&fraTypes,
-                &fraCriteria,
-                &lblSource,
-                &txtSource,
-                &lblCategory,
-                &txtCategory,
-                &lblUser,
-                &txtUser,
-                &lblComputer,
-                &txtComputer,
-                &lblEventID,
-                &txtEventID,
-                &fraEventDesc,
-                &txtEventDesc,
-                &cmdCRLF,
-                &cmdTab,
-                &fraThreshold,
-                &lblThreshold,
-                &txtThreshold,
-                &lblThresholdUnit,
-                &lblTimeout,
-                &txtTimeout,
-                &lblTimeoutUnit,
-                &lblSpecificNotification,
-                &lstSpecificNotification,
-                &cmdSave,
-                &cmdAbandon},
-               !shown);
-  for (ui::CheckBox& type : chkType) ui::ShowFace({&type}, !shown);
-  for (ui::OptionButton& match : optMatchEntireDescription) ui::ShowFace({&match}, !shown);
+  const auto fields = std::find(Controls().begin(), Controls().end(), &fraTypes);
+  ui::ShowFace({Controls().begin() + 1, fields}, shown);
+  ui::ShowFace({fields, Controls().end()}, !shown);
   cmdCancel.Default = cmdCancel.Cancel = shown;
   cmdSave.Default = cmdAbandon.Cancel = !shown;
   lblInstructions.Caption = shown ? TreeInstructions : FieldInstructions;
