@@ -26,7 +26,7 @@ frmAlarmExport::frmAlarmExport(modMain& main)
   SetCaptions();
   WireHandlers();
   txtFile.Locked = true;
-  lvwAlarmGroups.Columns = {{"Name", 5275}};
+  lvwAlarmGroups.Columns = {{"Name", 4000}};
   tvAlarms.DragTargets = lvwAlarmGroups.DragTargets = {&tvSelectedAlarms};
   cmdOK.Default = true;
   cmdCancel.Cancel = true;

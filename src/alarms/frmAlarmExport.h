@@ -17,9 +17,10 @@ class frmAlarmExport : public ui::Form {
   explicit frmAlarmExport(modMain& main);
 
   ui::Label lblInfo{*this, "lblInfo"};
+  /// Stands before the box, which is not typed into, so that the focus begins here.
+  ui::CommandButton cmdBrowse{*this, "cmdBrowse"};
   ui::Label lblFile{*this, "lblFile"};
   ui::TextBox txtFile{*this, "txtFile"};
-  ui::CommandButton cmdBrowse{*this, "cmdBrowse"};
   ui::Label lblAlarms{*this, "lblAlarms"};
   ui::TreeView tvAlarms{*this, "tvAlarms"};
   ui::Label lblAlarmGroups{*this, "lblAlarmGroups"};

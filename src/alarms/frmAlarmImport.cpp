@@ -17,6 +17,9 @@ namespace corvane {
 namespace {
 
 constexpr int HelpTopic = 340;
+// Widths of the columns; the notice that stands in the list at first takes the first one for itself.
+constexpr std::array<int, 5> Widths{3900, 2200, 2400, 3900, 2700};
+constexpr int WholeWidth = 15300;
 
 struct ShownField {
   const char* Title;
@@ -61,7 +64,7 @@ frmAlarmImport::frmAlarmImport(modMain& main) : Form(main.Ui, "frmAlarmImport"),
   SetCaptions();
   WireHandlers();
   txtFile.Locked = true;
-  lvwItemsToImport.Columns = {{"Name", 3000}, {"Category", 2200}, {"Log Type", 1600}, {"OS", 2600}, {"Group", 2200}};
+  lvwItemsToImport.Columns = {{"Name", WholeWidth}, {"Category", 0}, {"Log Type", 0}, {"OS", 0}, {"Group", 0}};
   lvwItemsToImport.SetMultiSelect(false);
   cmdImport.Default = true;
   cmdCancel.Cancel = true;
@@ -111,17 +114,20 @@ void frmAlarmImport::ShowListFace(bool shown) {
 
 bool frmAlarmImport::Form_Load() {
   lvwItemsToImport.Add({"", "Please select a file, by clicking the browse button.", {}, ""});
-  EnableList(false);
+  cmdView.Enabled = cmdDelete.Enabled = cmdImport.Enabled = false;
   return true;
 }
 
-void frmAlarmImport::EnableList(bool enabled) { cmdView.Enabled = cmdDelete.Enabled = cmdImport.Enabled = enabled; }
+void frmAlarmImport::SwitchToList() {
+  for (std::size_t i = 0; i < Widths.size(); ++i) lvwItemsToImport.Columns[i].Width = Widths[i];
+  cmdView.Enabled = cmdDelete.Enabled = cmdImport.Enabled = true;
+}
 
 void frmAlarmImport::cmdBrowse_Click() {
   const std::optional<std::string> path = main_.Ui.OpenFile({"Import Alarms From...", "Alarm export files (*.ini)"});
   if (!path) return;
   txtFile.Text = *path;
-  EnableList(true);
+  SwitchToList();
   LoadImportList(*path);
 }
 
@@ -177,6 +183,8 @@ void frmAlarmImport::ShowAlarmProperties() {
   for (std::size_t i = 0; i < ShownFields.size(); ++i) {
     const std::string text = TextOfField(line, ShownFields[i].Place);
     lblField[i].Caption = text.empty() ? " " : ui::Literal(text);
+    // A word that is longer than the line is cut there.
+    lblField[i].ToolTip = text;
   }
   ShowListFace(false);
 }

@@ -20,9 +20,10 @@ class frmAlarmImport : public ui::Form {
   explicit frmAlarmImport(modMain& main);
 
   ui::Label lblInfo{*this, "lblInfo"};
+  /// Stands before the box, which is not typed into, so that the focus begins here.
+  ui::CommandButton cmdBrowse{*this, "cmdBrowse"};
   ui::Label lblFile{*this, "lblFile"};
   ui::TextBox txtFile{*this, "txtFile"};
-  ui::CommandButton cmdBrowse{*this, "cmdBrowse"};
   ui::Label lblItemsToImport{*this, "lblItemsToImport"};
   ui::ListView lvwItemsToImport{*this, "lvwItemsToImport"};
   ui::CommandButton cmdView{*this, "cmdView"};
@@ -57,7 +58,7 @@ class frmAlarmImport : public ui::Form {
   void cmdDelete_Click();
   void cmdImport_Click();
 
-  void EnableList(bool enabled);
+  void SwitchToList();
   void LoadImportList(const std::string& path);
   void DescribeAlarm(const ExchangeLine& line, int number, std::vector<std::string>& columns);
   std::string NameFrom(const std::string& table, const std::string& index, const char* column);

@@ -1,7 +1,9 @@
 #include "adapters/qt/FormRegistry.h"
 
 #include "platform/RuntimeError.h"
+#include "ui_frmAlarmExport.h"
 #include "ui_frmAlarmGroups.h"
+#include "ui_frmAlarmImport.h"
 #include "ui_frmAlarmInformation.h"
 #include "ui_frmAlarms.h"
 #include "ui_frmBegin.h"
@@ -27,7 +29,9 @@ void Place(QWidget& content) {
 
 FormRegistry FormRegistry::Console() {
   FormRegistry forms;
+  forms.Add("frmAlarmExport", {Place<Ui::frmAlarmExport>});
   forms.Add("frmAlarmGroups", {Place<Ui::frmAlarmGroups>});
+  forms.Add("frmAlarmImport", {Place<Ui::frmAlarmImport>});
   forms.Add("frmAlarmInformation", {Place<Ui::frmAlarmInformation>});
   forms.Add("frmAlarms", {Place<Ui::frmAlarms>});
   forms.Add("frmBegin", {Place<Ui::frmBegin>});
