@@ -1,6 +1,7 @@
 #include <benchmark/benchmark.h>
 
 #include "admin/frmServiceAccount.h"
+#include "alarms/frmAlarmGroups.h"
 #include "alarms/frmAlarms.h"
 #include "core/console/frmBegin.h"
 #include "core/console/frmLogView.h"
@@ -53,6 +54,7 @@ BENCHMARK(OpenScreen<frmCustomDomainManager>)
     ->UseManualTime();
 BENCHMARK(OpenScreen<frmServiceAccount>)->Name("service account opened and painted")->Iterations(50)->UseManualTime();
 BENCHMARK(OpenScreen<frmAlarms>)->Name("alarms opened and painted")->Iterations(50)->UseManualTime();
+BENCHMARK(OpenScreen<frmAlarmGroups>)->Name("alarm bundles opened and painted")->Iterations(50)->UseManualTime();
 BENCHMARK(OpenScreen<frmLogView>)->Name("log viewer opened and painted")->Iterations(50)->UseManualTime();
 
 }  // namespace

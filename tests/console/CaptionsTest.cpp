@@ -1,4 +1,5 @@
 #include "admin/frmServiceAccount.h"
+#include "alarms/frmAlarmGroups.h"
 #include "app/installation/TextFile.h"
 #include "core/console/frmBegin.h"
 #include "core/console/frmControlService.h"
@@ -58,7 +59,7 @@ TEST_F(ConsoleTest, CaptionsAreTheSettledOnes) {
             TextsOf(Window()) + TextsOn<frmBegin>(Main) + TextsOn<frmStartup>(Main) + TextsOn<frmLogEdit>(Main) +
                 TextsOf(stop) + TextsOf(start) + TextsOn<frmLogView>(Main) + TextsOn<frmDomainChooser>(Main) +
                 TextsOn<frmComputerEnum>(Main) + TextsOn<frmCustomDomainManager>(Main) +
-                TextsOn<frmServiceAccount>(Main));
+                TextsOn<frmServiceAccount>(Main) + TextsOn<frmAlarmGroups>(Main));
 }
 
 }  // namespace

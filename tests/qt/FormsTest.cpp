@@ -12,6 +12,7 @@
 #include "StartedConsole.h"
 #include "admin/frmServiceAccount.h"
 #include "alarms/frmAlarmExport.h"
+#include "alarms/frmAlarmGroups.h"
 #include "alarms/frmAlarmImport.h"
 #include "alarms/frmAlarmInformation.h"
 #include "alarms/frmAlarms.h"
@@ -42,6 +43,7 @@ class FormsTest : public StartedConsole {
     frmServiceAccount account(State());
     frmControlService services(State(), [](Service) {});
     frmAlarms alarms(State()), alarmFields(State());
+    frmAlarmGroups bundles(State()), bundleFields(State());
     frmAlarmExport exporter(State());
     frmAlarmImport importer(State()), importFields(State());
     Place.Write("in.ini", "[Alarms]\r\nAlarmInfo1=Disk Bad Block|Copy the data.|D_2|4|disk||||7||False|0|0\r\n");
@@ -51,11 +53,12 @@ class FormsTest : public StartedConsole {
     State().IsNewLog = true;
     for (ui::Form* form : std::initializer_list<ui::Form*>{
              &Main(), &begin, &splash, &about, &editor, &events, &domain, &computers, &mappings, &account, &services,
-             &alarms, &alarmFields, &exporter, &importer, &importFields, &information}) {
+             &alarms, &alarmFields, &bundles, &bundleFields, &exporter, &importer, &importFields, &information}) {
       form->Load();
       if (form == &about) about.SetAbout(true);
       if (form == &services) services.InitForm();
       if (form == &alarmFields) alarmFields.cmdAdd.Click();
+      if (form == &bundleFields) bundleFields.cmdEdit.Click();
       if (form == &exporter) Choose("SaveDialog", "out.ini", exporter.cmdBrowse);
       if (form == &importFields) {
         Choose("OpenDialog", "in.ini", importFields.cmdBrowse);
