@@ -93,6 +93,7 @@ TEST_F(IniFilesTest, AWriteThatFailsLosesNothing) {
   const std::string before = Folder.Read("a.ini");
   const auto isRefused = [&] { return !Set("A", "k", std::string(2000, 'x')) && Get("A", "k") == "1"; };
   EXPECT_EQ(OnFullDisk(1000, isRefused), 1);
+  EXPECT_EQ(OnFullDisk(1000, [&] { return !Set("A", "new", std::string(2000, 'x')); }), 1) << "at the end, in place";
   EXPECT_EQ(AsNobody(file, 0444, 0777, isRefused), 1);
   EXPECT_EQ(AsNobody(file, 0666, 0555, isRefused), 1);
   EXPECT_EQ(Folder.Read("a.ini"), before);

@@ -16,14 +16,21 @@ std::string_view TrimBlanks(std::string_view text) {
   return text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 
+// Every line that is read passes here, and `find_first_of` searches its set anew for each character.
+std::size_t FindBreak(std::string_view text) {
+  std::size_t at = 0;
+  while (at < text.size() && text[at] != '\r' && text[at] != '\n') ++at;
+  return at;
+}
+
 // Length of the first line with its line break.
 std::size_t LineLength(std::string_view text) {
-  const std::size_t end = text.find_first_of("\r\n");
-  if (end == text.npos) return text.size();
+  const std::size_t end = FindBreak(text);
+  if (end == text.size()) return end;
   return end + (text.substr(end, 2) == "\r\n" ? 2 : 1);
 }
 
-std::string_view WithoutBreak(std::string_view line) { return line.substr(0, line.find_first_of("\r\n")); }
+std::string_view WithoutBreak(std::string_view line) { return line.substr(0, FindBreak(line)); }
 
 bool IsBlank(std::string_view line) { return TrimBlanks(WithoutBreak(line)).empty(); }
 

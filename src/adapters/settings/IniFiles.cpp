@@ -107,8 +107,11 @@ bool IniFiles::WriteString(const std::string& section, const std::string& key, c
   OpenFile& file = FileAt(path);
   const settings::FileLock lock(file.File.Path(), settings::FileLock::Missing::IsMade);
   if (lock.Error() != 0 || !file.Refresh()) return false;
+  const std::string before = file.Document.Bytes();
   file.Document.Set(UpToZero(section), UpToZero(key), BytesOfText(UpToZero(value)));
-  return file.File.Replace(file.Document.Bytes(), settings::SettingsFile::Durability::Process) == 0;
+  const std::string after = file.Document.Bytes();
+  if (after.starts_with(before) && file.File.Append(std::string_view(after).substr(before.size()))) return true;
+  return file.File.Replace(after, settings::SettingsFile::Durability::Process) == 0;
 }
 
 }  // namespace corvane

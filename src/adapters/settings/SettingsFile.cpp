@@ -17,6 +17,8 @@ namespace {
 constexpr std::int64_t Second = 1'000'000'000;
 // File times advance in steps of the kernel's tick, 10 ms at the coarsest.
 constexpr std::int64_t TimeStep = 20'000'000;
+// The smallest page of any machine.
+constexpr std::uint64_t PageSize = 4096;
 
 class Descriptor {
  public:
@@ -148,6 +150,23 @@ int SettingsFile::Replace(std::string_view bytes, Durability durability) {
   settled_ = true;
   if (durability == Durability::Power) SyncFolder(target.parent_path());
   return 0;
+}
+
+// Within one page the kernel shows readers the old length or the new one, and a kill comes before or after.
+bool SettingsFile::Append(std::string_view bytes) {
+  if (bytes.empty() || stamp_.Size / PageSize != (stamp_.Size + bytes.size() - 1) / PageSize) return false;
+  Descriptor file(::open(path_.c_str(), O_WRONLY | O_APPEND | O_CLOEXEC | O_NONBLOCK));
+  struct stat status;
+  if (!file.IsOpen() || ::fstat(file.Get(), &status) != 0 || !(StampOf(status) == stamp_)) return false;
+  bool isWritten = ::write(file.Get(), bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size());
+  if (isWritten)
+    SetExactTime(file.Get());
+  else if (::ftruncate(file.Get(), static_cast<off_t>(stamp_.Size)) != 0)
+    errno = 0;
+  isWritten = ::fstat(file.Get(), &status) == 0 && file.Close() == 0 && isWritten;
+  stamp_ = isWritten ? StampOf(status) : Stamp();
+  settled_ = isWritten;
+  return isWritten;
 }
 
 }  // namespace corvane::settings

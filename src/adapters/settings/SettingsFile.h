@@ -27,6 +27,10 @@ class SettingsFile {
   /// and whatever ends this process, there is the old content or the new one. With `Power` this also holds when the
   /// machine itself goes down. The caller holds the `FileLock`.
   int Replace(std::string_view bytes, Durability durability);
+  /// Adds bytes at the end in a single step, which `Replace` takes far longer for. False, with nothing added, where
+  /// that cannot be: the file is not what it was when it was last read or written, or the bytes do not fit into its
+  /// last page of memory. Holds when a process ends, not when the machine goes down. The caller holds the `FileLock`.
+  bool Append(std::string_view bytes);
   /// Lets the next `IsUnchanged` say false.
   void Forget() { stamp_ = {}; }
 
