@@ -11,6 +11,11 @@ namespace {
 constexpr const char* Main = "frmCVMain";
 constexpr const char* Alarms = "frmAlarms";
 constexpr const char* Information = "frmAlarmInformation";
+constexpr const char* Bundles = "frmAlarmGroups";
+constexpr const char* Export = "frmAlarmExport";
+constexpr const char* Import = "frmAlarmImport";
+
+const QStringList Disks{"Windows 2000/XP/2003", "System", "Disk and File System"};
 
 QAbstractItemView& View(const char* form, const char* name) { return Driver::Find<QAbstractItemView>(form, name); }
 QLineEdit& Line(const char* form, const char* name) { return Driver::Find<QLineEdit>(form, name); }
@@ -62,14 +67,85 @@ void WriteAnAlarm(Script& script) {
   script.On(Alarms, [] { Driver::Click(Alarms, "cmdCancel"); });
 }
 
+void MakeABundle(Script& script) {
+  script.When(
+      "the main window is in front", [] { return Driver::Window(Alarms) == nullptr; },
+      [] { Driver::ClickTool(Main, "alarmgroups"); });
+  script.Picture(Bundles, "define-alarm-bundles");
+  script.On(Bundles, [] {
+    Driver::Click(Bundles, "cmdAdd");
+    Driver::Type(Line(Bundles, "txtGroupName"), "Dying Disks");
+    for (const char* alarm : {"Delayed Write Lost", "Disk Bad Block"}) {
+      Driver::Pick(View(Bundles, "tvAlarms"), Disks + QStringList{alarm});
+      Driver::Click(Bundles, "cmdAlarmAdd");
+    }
+  });
+  script.Picture(Bundles, "alarm-bundle");
+  script.On(Bundles, [] { Driver::Click(Bundles, "cmdSave"); });
+  script.On(Bundles, [] { Driver::Click(Bundles, "cmdCancel"); });
+}
+
+// Typing would open the list of completions above the buttons.
+void GiveFile(Script& script, const char* dialog, const std::string& path) {
+  script.On(dialog, [=] {
+    Driver::Find<QLineEdit>(dialog, "fileNameEdit").setText(QString::fromStdString(path));
+    QTest::keyClick(Driver::Window(dialog), Qt::Key_Return);
+  });
+}
+
+void ExportAlarms(Script& script) {
+  script.When(
+      "the main window is in front", [] { return Driver::Window(Bundles) == nullptr; },
+      [] { Driver::ClickTool(Main, "exportalarms"); });
+  script.On(Export, [] { Driver::Click(Export, "cmdBrowse"); });
+  GiveFile(script, "SaveDialog", script.Folder() + "/alarms.ini");
+  script.When(
+      "the alarms are offered",
+      [] { return Driver::Window(Export)->isActiveWindow() && View(Export, "tvAlarms").model()->rowCount() > 0; },
+      [] {
+        Driver::Pick(View(Export, "lvwAlarmGroups"), {"Dying Disks"});
+        Driver::Click(Export, "cmdAdd");
+        Driver::Pick(View(Export, "tvAlarms"), Disks + QStringList{"Volume Nearly Full"});
+        Driver::Click(Export, "cmdAdd");
+      });
+  script.Picture(Export, "export-alarms");
+  script.On(Export, [] { Driver::Click(Export, "cmdOK"); });
+  script.Answer("Corvane", "exported", QMessageBox::Ok);
+}
+
+void CloseMain(Script& script, const char* last) {
+  script.When(
+      "the main window is in front", [=] { return Driver::Window(last) == nullptr; },
+      [] { Driver::Window(Main)->close(); });
+}
+
 }  // namespace
 
 void AddAlarmCatalogue(Script& script) {
   RenameACategory(script);
   WriteAnAlarm(script);
+  MakeABundle(script);
+  ExportAlarms(script);
+  CloseMain(script, Export);
+}
+
+void AddAlarmImport(Script& script) {
+  script.On(Main, [] { Driver::ClickTool(Main, "importalarms"); });
+  script.On(Import, [] { Driver::Click(Import, "cmdBrowse"); });
+  GiveFile(script, "OpenDialog", script.Folder() + "/../alarm-catalogue/alarms.ini");
   script.When(
-      "the main window is in front", [] { return Driver::Window(Alarms) == nullptr; },
-      [] { Driver::Window(Main)->close(); });
+      "the file is listed", [] { return View(Import, "lvwItemsToImport").model()->rowCount() == 3; },
+      [] { Driver::Pick(View(Import, "lvwItemsToImport"), {"Volume Nearly Full"}); });
+  script.On(Import, [] { Driver::Click(Import, "cmdDelete"); });
+  script.On(Import, [] { Driver::Pick(View(Import, "lvwItemsToImport"), {"Delayed Write Lost"}); });
+  script.Picture(Import, "import-alarms");
+  script.On(Import, [] { Driver::Click(Import, "cmdView"); });
+  script.Picture(Import, "alarm-to-import");
+  script.On(Import, [] { Driver::Click(Import, "cmdAbandon"); });
+  script.On(Import, [] { Driver::Click(Import, "cmdImport"); });
+  script.Answer("Overwrite Record", "overwrite", QMessageBox::Yes);
+  script.Answer("Corvane", "imported", QMessageBox::Ok);
+  CloseMain(script, Import);
 }
 
 }  // namespace corvane::tour

@@ -21,11 +21,10 @@ namespace {
 
 using AddSteps = void (*)(corvane::tour::Script&);
 
-const std::map<std::string, AddSteps> Tours{{"first-run", corvane::tour::AddFirstRun},
-                                            {"main-job", corvane::tour::AddMainJob},
-                                            {"commands", corvane::tour::AddCommands},
-                                            {"alarm-catalogue", corvane::tour::AddAlarmCatalogue},
-                                            {"help", corvane::tour::AddHelpPictures}};
+const std::map<std::string, AddSteps> Tours{
+    {"first-run", corvane::tour::AddFirstRun},       {"main-job", corvane::tour::AddMainJob},
+    {"commands", corvane::tour::AddCommands},        {"alarm-catalogue", corvane::tour::AddAlarmCatalogue},
+    {"alarm-import", corvane::tour::AddAlarmImport}, {"help", corvane::tour::AddHelpPictures}};
 
 }  // namespace
 
@@ -33,8 +32,9 @@ const std::map<std::string, AddSteps> Tours{{"first-run", corvane::tour::AddFirs
 int main(int count, char** arguments) {
   QApplication application(count, arguments);
   if (count != 4 || Tours.count(arguments[1]) == 0) {
-    std::fprintf(stderr,
-                 "usage: corvane-tour first-run|main-job|commands|alarm-catalogue|help INSTALLATION PICTURES\n");
+    std::fprintf(
+        stderr,
+        "usage: corvane-tour first-run|main-job|commands|alarm-catalogue|alarm-import|help INSTALLATION PICTURES\n");
     return 2;
   }
   const std::filesystem::path folder = arguments[2];
