@@ -79,7 +79,7 @@ void frmAlarmImport::SetCaptions() {
   lblFile.Caption = "&File:";
   cmdBrowse.Caption = "&Browse...";
   lblItemsToImport.Caption = "&Alarms to Import";
-  cmdView.Caption = "&View...";
+  cmdView.Caption = "&View";
   cmdDelete.Caption = "&Remove";
   cmdImport.Caption = "&Import";
   cmdCancel.Caption = "Cancel";

@@ -1,5 +1,7 @@
 #include "admin/frmServiceAccount.h"
+#include "alarms/frmAlarmExport.h"
 #include "alarms/frmAlarmGroups.h"
+#include "alarms/frmAlarmImport.h"
 #include "app/installation/TextFile.h"
 #include "core/console/frmBegin.h"
 #include "core/console/frmControlService.h"
@@ -59,7 +61,8 @@ TEST_F(ConsoleTest, CaptionsAreTheSettledOnes) {
             TextsOf(Window()) + TextsOn<frmBegin>(Main) + TextsOn<frmStartup>(Main) + TextsOn<frmLogEdit>(Main) +
                 TextsOf(stop) + TextsOf(start) + TextsOn<frmLogView>(Main) + TextsOn<frmDomainChooser>(Main) +
                 TextsOn<frmComputerEnum>(Main) + TextsOn<frmCustomDomainManager>(Main) +
-                TextsOn<frmServiceAccount>(Main) + TextsOn<frmAlarmGroups>(Main));
+                TextsOn<frmServiceAccount>(Main) + TextsOn<frmAlarmGroups>(Main) + TextsOn<frmAlarmExport>(Main) +
+                TextsOn<frmAlarmImport>(Main));
 }
 
 }  // namespace
