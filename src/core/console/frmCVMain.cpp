@@ -113,7 +113,7 @@ void frmCVMain::SetPictures() {
   for (const auto& [item, picture] : pictures) item->Picture = picture;
 }
 
-// The commands of every day bear their names, the others their pictures alone: all of them have to fit into one row.
+// The commands of every hour bear their names, the others their pictures alone: all of them have to fit into one row.
 void frmCVMain::SetToolbar() {
   const auto add = [this](ui::ToolButton button, ui::Handler command) {
     toolCommands_[button.Key] = std::move(command);
@@ -126,7 +126,7 @@ void frmCVMain::SetToolbar() {
   separate();
   add({"deletesyslog", "", "Delete Syslog Device(s)", "syslogdelete"}, [this] { mnuFileSyslogDelete_Click(); });
   separate();
-  add({"eventviewer", "Event Viewer", "Open the Event Viewer on the Selected Computer", "eventviewer"},
+  add({"eventviewer", "", "Open the Event Viewer on the Selected Computer", "eventviewer"},
       [this] { mnuFileEventViewer_Click(); });
   separate();
   add({"alarm", "", "Define Alarms", "alarm"}, [this] { mnuEditDefineAlarms_Click(); });
@@ -144,7 +144,7 @@ void frmCVMain::SetToolbar() {
        false,
        {{"Creating Tables on Other ODBC Servers", [this] { mnuDatabaseOther.Click(); }}}},
       [this] { AskForDropDown(); });
-  add({"viewlogentries", "Log Entries", "View Corvane Log Entries", "log"}, [this] { mnuToolsViewLogEntries_Click(); });
+  add({"viewlogentries", "", "View Corvane Log Entries", "log"}, [this] { mnuToolsViewLogEntries_Click(); });
   separate();
   add({"setserviceaccount", "", "Set Corvane Service Account", "account"},
       [this] { mnuOptionsServiceAccount_Click(); });
