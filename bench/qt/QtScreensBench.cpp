@@ -1,7 +1,9 @@
 #include <benchmark/benchmark.h>
 
 #include "admin/frmServiceAccount.h"
+#include "alarms/frmAlarmExport.h"
 #include "alarms/frmAlarmGroups.h"
+#include "alarms/frmAlarmImport.h"
 #include "alarms/frmAlarms.h"
 #include "core/console/frmBegin.h"
 #include "core/console/frmLogView.h"
@@ -55,6 +57,8 @@ BENCHMARK(OpenScreen<frmCustomDomainManager>)
 BENCHMARK(OpenScreen<frmServiceAccount>)->Name("service account opened and painted")->Iterations(50)->UseManualTime();
 BENCHMARK(OpenScreen<frmAlarms>)->Name("alarms opened and painted")->Iterations(50)->UseManualTime();
 BENCHMARK(OpenScreen<frmAlarmGroups>)->Name("alarm bundles opened and painted")->Iterations(50)->UseManualTime();
+BENCHMARK(OpenScreen<frmAlarmExport>)->Name("export of alarms opened and painted")->Iterations(50)->UseManualTime();
+BENCHMARK(OpenScreen<frmAlarmImport>)->Name("import of alarms opened and painted")->Iterations(50)->UseManualTime();
 BENCHMARK(OpenScreen<frmLogView>)->Name("log viewer opened and painted")->Iterations(50)->UseManualTime();
 
 }  // namespace
