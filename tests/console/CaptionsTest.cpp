@@ -2,6 +2,8 @@
 #include "alarms/frmAlarmExport.h"
 #include "alarms/frmAlarmGroups.h"
 #include "alarms/frmAlarmImport.h"
+#include "alarms/frmAlarmInformation.h"
+#include "alarms/frmAlarms.h"
 #include "app/installation/TextFile.h"
 #include "core/console/frmBegin.h"
 #include "core/console/frmControlService.h"
@@ -57,12 +59,15 @@ TEST_F(ConsoleTest, CaptionsAreTheSettledOnes) {
   frmControlService stop(Main, {}), start(Main, {});
   start.IsStart = true;
   for (frmControlService* form : {&stop, &start}) form->InitForm();
+  AlarmPlace place;
+  frmAlarmInformation information(Main, place);
+  information.InitForm(frmAlarms(Main).tvAlarms);
   EXPECT_EQ(ReadTextFile(CORVANE_SOURCE_DIR "/tests/console/Captions.txt"),
             TextsOf(Window()) + TextsOn<frmBegin>(Main) + TextsOn<frmStartup>(Main) + TextsOn<frmLogEdit>(Main) +
                 TextsOf(stop) + TextsOf(start) + TextsOn<frmLogView>(Main) + TextsOn<frmDomainChooser>(Main) +
                 TextsOn<frmComputerEnum>(Main) + TextsOn<frmCustomDomainManager>(Main) +
                 TextsOn<frmServiceAccount>(Main) + TextsOn<frmAlarmGroups>(Main) + TextsOn<frmAlarmExport>(Main) +
-                TextsOn<frmAlarmImport>(Main));
+                TextsOn<frmAlarmImport>(Main) + TextsOn<frmAlarms>(Main) + TextsOf(information));
 }
 
 }  // namespace
