@@ -117,11 +117,12 @@ bool AlarmFields::Refuse(const std::string& why, ui::TextBox& box) {
 
 void AlarmFields::NoteCaret() { caret_ = controls_.EventDescription.SelStart; }
 
-// The caret's place is that of the last change or click, wherever the keyboard has moved it since. A marker changes the
-// text, too.
+// A marker goes to where the caret stood at the last change or click, wherever the keyboard has moved it since. It is a
+// change like any other, with the caret behind it, so that the next marker follows this one.
 void AlarmFields::InsertMarker(const std::string& marker) {
   std::string& text = controls_.EventDescription.Text;
   text.insert(BytesOfCharacters(text, static_cast<std::size_t>(caret_)), marker);
+  controls_.EventDescription.SelStart = caret_ + static_cast<int>(marker.size());
   NoteCaret();
 }
 
