@@ -65,6 +65,17 @@ TEST_F(AlarmEditorTest, WritesWhatTheFieldsSay) {
   }
 }
 
+TEST_F(AlarmEditorTest, BoxesTakeAsMuchAsTheirColumns) {
+  Host.Click(Form.cmdAdd);
+  std::string lengths;
+  for (ui::TextBox* box : {&Form.txtSource, &Form.txtUser, &Form.txtComputer, &Form.txtEventID, &Form.txtThreshold,
+                           &Form.txtTimeout, &Form.txtCategory, &Form.txtEventDesc}) {
+    Host.Type(*box, std::string(300, '1'));
+    lengths += std::to_string(box->Text.size()) + " ";
+  }
+  EXPECT_EQ("250 255 255 12 12 12 300 300 ", lengths);
+}
+
 TEST_F(AlarmEditorTest, ThresholdsComeTogetherAsNumbersAboveOne) {
   Host.Click(Form.cmdAdd);
   for (const auto& c : Cases("alarms/Thresholds.txt")) {

@@ -132,6 +132,7 @@ TEST_F(AlarmsTest, DeletesWhatNoLogIsBoundTo) {
                                   "AlarmsInGroups WHERE AlarmID = " +
                                   id + ")"));
   EXPECT_EQ("ALARM\\2\\Disk Errors_2\\bad block bad block\n", Below(Disk)) << "the parent is read afresh";
+  EXPECT_EQ(Form.tvAlarms.Find(Disk), Form.tvAlarms.Selected()) << "and selected";
   EXPECT_EQ("", Stamp());
 }
 
