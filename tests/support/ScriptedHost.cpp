@@ -10,6 +10,8 @@ ScriptedHost::~ScriptedHost() {
   tellLeft(boxes_, "");
   tellLeft(files_, "a choice of a file");
   tellLeft(opened_, "a choice of a file to read");
+  tellLeft(inputs_, "");
+  tellLeft(prompts_, "a prompt for a connection");
   tellLeft(containers_, "a choice of a container");
   tellLeft(duringEvents_, "a time to serve events");
 }
@@ -115,6 +117,7 @@ void ScriptedHost::Show(ui::Form& form) {
 ui::MsgResult ScriptedHost::MsgBox(const std::string& text, ui::MsgIcon icon, ui::MsgButtons buttons,
                                    const std::string& title) {
   Boxes.push_back({text, icon, buttons, title});
+  if (ToAnyBox) return *ToAnyBox;
   return Next(boxes_, text).value_or(buttons == ui::MsgButtons::YesNo ? ui::MsgResult::No : ui::MsgResult::Cancel);
 }
 
@@ -123,7 +126,32 @@ std::optional<std::string> ScriptedHost::SaveFile(const ui::SaveDialog& dialog) 
   return Next(files_, dialog.Title).value_or(std::nullopt);
 }
 
+std::string ScriptedHost::InputBox(const std::string& text, const std::string& title) {
+  InputTexts.push_back(text);
+  return Next(inputs_, title).value_or("");
+}
+
+std::optional<std::string> ScriptedHost::PromptConnection(const ui::ConnectionPrompt& prompt) {
+  const auto script = Next(prompts_, "a prompt for a connection");
+  return script ? (*script)(prompt) : std::nullopt;
+}
+
+void ScriptedHost::Post(std::function<void()> action) {
+  const std::lock_guard lock(posting_);
+  posted_.push_back(std::move(action));
+}
+
+void ScriptedHost::RunPosted() {
+  std::vector<std::function<void()>> actions;
+  {
+    const std::lock_guard lock(posting_);
+    actions.swap(posted_);
+  }
+  for (const auto& action : actions) action();
+}
+
 std::optional<std::string> ScriptedHost::OpenFile(const ui::OpenDialog& dialog) {
+  OpenDialogs.push_back(dialog);
   return Next(opened_, dialog.Title).value_or(std::nullopt);
 }
 

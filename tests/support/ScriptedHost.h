@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <deque>
 #include <functional>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <vector>
@@ -44,6 +45,13 @@ class ScriptedHost : public ui::UiHost {
   void OnBox(std::string text, ui::MsgResult answer = ui::MsgResult::Ok) { boxes_.emplace_back(text, answer); }
   /// The next dialog that asks for a file's name, and the path that is given; nothing for Cancel.
   void OnSaveFile(std::optional<std::string> path) { files_.emplace_back("", std::move(path)); }
+  /// The next box that asks for a text: its title and the answer; an empty one for Cancel.
+  void OnInputBox(std::string title, std::string answer) { inputs_.emplace_back(title, std::move(answer)); }
+  /// The next prompt for a connection: what the user does with it, and the string that comes of it.
+  using PromptScript = std::function<std::optional<std::string>(const ui::ConnectionPrompt&)>;
+  void OnPromptConnection(PromptScript script) { prompts_.emplace_back("", std::move(script)); }
+  /// Runs what was posted since the last time.
+  void RunPosted();
   /// The same for a file to read.
   void OnOpenFile(std::optional<std::string> path) { opened_.emplace_back("", std::move(path)); }
   /// The next choice of a container: a script gets the root and the reader of its tree, and chooses.
@@ -117,6 +125,10 @@ class ScriptedHost : public ui::UiHost {
   std::optional<std::string> OpenFile(const ui::OpenDialog& dialog) override;
   std::optional<DirectoryContainer> ChooseContainer(const std::string& title, const DirectoryContainer& root,
                                                     const ui::ContainersOf& containersOf) override;
+  std::string InputBox(const std::string& text, const std::string& title) override;
+  std::optional<std::string> PromptConnection(const ui::ConnectionPrompt& prompt) override;
+  void Repaint() override {}
+  void Post(std::function<void()> action) override;
   void SetClipboardText(const std::string& text) override { Clipboard = text; }
   void Beep() override { ++Beeps; }
   void PopupMenu(ui::MenuItem& menu) override { Popups.push_back(&menu); }
@@ -127,6 +139,8 @@ class ScriptedHost : public ui::UiHost {
   void CloseHelp() override { HelpTopics.clear(); }
 
   std::vector<ShownBox> Boxes;
+  /// The answer to every box where a test foresees none.
+  std::optional<ui::MsgResult> ToAnyBox;
   /// Names of all forms that were shown, modal or not, in order.
   std::vector<std::string> Shown;
   std::vector<int> Slept;
@@ -135,6 +149,9 @@ class ScriptedHost : public ui::UiHost {
   std::vector<int> HelpTopics;
   std::vector<ui::MenuItem*> Popups;
   std::vector<ui::SaveDialog> SaveDialogs;
+  std::vector<ui::OpenDialog> OpenDialogs;
+  /// The texts of the boxes that asked for one.
+  std::vector<std::string> InputTexts;
   std::string Clipboard;
   int Beeps = 0;
   int EventsServed = 0;
@@ -165,6 +182,10 @@ class ScriptedHost : public ui::UiHost {
   Foreseen<std::function<void(ui::Form&)>> modals_;
   Foreseen<ui::MsgResult> boxes_;
   Foreseen<std::optional<std::string>> files_, opened_;
+  Foreseen<std::string> inputs_;
+  Foreseen<PromptScript> prompts_;
+  std::mutex posting_;
+  std::vector<std::function<void()>> posted_;
   Foreseen<ContainerScript> containers_;
   Foreseen<std::function<void()>> duringEvents_;
   std::vector<ui::Form*> shownForms_;
