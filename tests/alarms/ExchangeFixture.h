@@ -14,20 +14,21 @@ class ExchangeTest : public ConsoleTest {
   ExchangeTest() { Console.Start(); }
 
   void Run(const std::string& file) { Console.Rows(ReadTextFile(CORVANE_SOURCE_DIR "/tests/alarms/" + file)); }
-  void ChooseFile(frmAlarmExport& form, const std::string& path = Path) {
+  void Choose(frmAlarmExport& form, const std::string& path = "C:\\Corvane\\alarms.ini") {
+    form.Load();
     Host.OnSaveFile(path);
     Host.Click(form.cmdBrowse);
   }
-  void ChooseFile(frmAlarmImport& form) {
-    Host.OnOpenFile(Path);
+  void Choose(frmAlarmImport& form) {
+    form.Load();
+    Host.OnOpenFile("C:\\Corvane\\alarms.ini");
     Host.Click(form.cmdBrowse);
   }
   /// Opens the branches of the keys and adds the last one.
   void Add(frmAlarmExport& form, const std::vector<std::string>& keys) {
     for (const std::string& key : keys) {
       const ui::NodeId node = form.tvAlarms.Find(key);
-      ASSERT_NE(0, node) << key;
-      if (key != keys.back() && !form.tvAlarms.Node(node).Expanded) Host.Open(form.tvAlarms, node);
+      if (node != 0 && key != keys.back()) Host.Open(form.tvAlarms, node);
       Host.ClickNode(form.tvAlarms, node);
     }
     Host.Click(form.cmdAdd);
@@ -36,15 +37,17 @@ class ExchangeTest : public ConsoleTest {
     Host.SelectOnly(form.lvwAlarmGroups, row);
     Host.Click(form.cmdAdd);
   }
-  void Export(frmAlarmExport& form) {
-    OnMessage("Exported");
-    Host.Click(form.cmdOK);
-    EXPECT_TRUE(form.IsUnloaded());
+  /// Presses the button; one message, and with success the form is gone.
+  void Finish(ui::Form& form, ui::CommandButton& button, const std::string& message, const std::string& with = "") {
+    OnMessage(message, with);
+    Host.Click(button);
+    EXPECT_EQ(with.empty(), form.IsUnloaded());
+    EXPECT_EQ(ui::Pointer::Default, form.MousePointer);
   }
-  std::filesystem::path File() const { return Console.Folder() / "alarms.ini"; }
-  void Write(const std::string& bytes) { std::ofstream(File(), std::ios::binary) << bytes; }
+  void Write(const std::string& bytes) { std::ofstream(File, std::ios::binary) << bytes; }
 
-  static constexpr const char* Path = "C:\\Corvane\\alarms.ini";
+  const std::filesystem::path File = Console.Folder() / "alarms.ini";
+  const std::vector<std::string> Disks{"OS\\2", "LOGTYPE\\2\\2", "ALARMCAT\\2\\Disks_2"};
 };
 
 }  // namespace corvane::test

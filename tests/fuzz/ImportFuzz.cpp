@@ -1,11 +1,17 @@
-#include "fuzz/ExchangeDesk.h"
+#include "alarms/frmAlarmImport.h"
 #include "fuzz/Fuzz.h"
+#include "support/TestConsole.h"
 
-// Whatever stands in the file is listed or left out, shown and imported or refused.
+// Whatever stands in the file is listed or left out, shown, and imported or refused.
 void corvane::fuzz::Try(const std::string& input) {
-  static ExchangeDesk desk;
-  desk.Write("[Alarms]\r\n" + input);
-  frmAlarmImport form(desk.State());
+  static test::TestConsole console;
+  modMain& main = console.App.State();
+  if (!main.ConfigConnection) console.Start();
+  console.Host.ToAnyBox = ui::MsgResult::Yes;
+  console.Host.Boxes.clear();
+  console.Place.Write("a.ini", "[Alarms]\r\n" + input);
+  console.Host.OnOpenFile((console.Place.Path() / "a.ini").string());
+  frmAlarmImport form(main);
   form.Load();
   form.cmdBrowse.Click();
   for (int row = 0; row < form.lvwItemsToImport.Count(); ++row) {
@@ -15,5 +21,7 @@ void corvane::fuzz::Try(const std::string& input) {
     form.cmdView.Click();
     form.cmdAbandon.Click();
   }
-  desk.Try(form.cmdImport.Click);
+  main.ConfigConnection->BeginTrans();
+  form.cmdImport.Click();
+  main.ConfigConnection->RollbackTrans();
 }
