@@ -18,12 +18,10 @@ int NumberOfFirst(const std::vector<std::string>& lines, Test test) {
 
 ExchangeSection::ExchangeSection(const PrivateProfile& file, const char* name, const char* stem)
     : file_(file), name_(name), stem_(stem) {
-  Load();
+  ReadFrom(1);
 }
 
 std::string ExchangeSection::KeyOf(std::size_t number) const { return stem_ + std::to_string(number); }
-
-void ExchangeSection::Load() { ReadFrom(1); }
 
 void ExchangeSection::ReadFrom(std::size_t number) {
   lines_.resize(static_cast<std::size_t>(file_.GetSectionSize(name_)));

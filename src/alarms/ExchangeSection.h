@@ -14,8 +14,6 @@ class ExchangeSection {
  public:
   ExchangeSection(const PrivateProfile& file, const char* name, const char* stem);
 
-  /// Reads all lines anew.
-  void Load();
   /// The values of the numbers from 1. One is empty where its number names no line, or a line that is too long to read.
   const std::vector<std::string>& Lines() const { return lines_; }
   /// Writes a line under the next number, which it gives. Raises `PathFileAccess` when it cannot be written.

@@ -31,7 +31,7 @@ void ExportFile::Write(const ui::TreeView& chosen) {
   for (const ui::NodeId id : chosen.InTreeOrder()) {
     const ui::TreeNode& node = chosen.Node(id);
     if (chosenkey::IsBundle(node.Key))
-      Append(bundles_, chosenkey::WrittenName(node.Key));
+      bundles_.Append(chosenkey::WrittenName(node.Key));
     else if (chosenkey::IsMember(node.Key))
       WriteMember(node.Key);
     else
@@ -51,12 +51,12 @@ std::string ExportFile::IdOfSingle(const std::string& name, const std::string& c
 void ExportFile::WriteMember(const std::string& key) {
   const int alarm = WriteAlarmLine(chosenkey::AlarmOfMember(key));
   const int bundle = FindLine(bundles_.Lines(), chosenkey::BundleOfMember(key));
-  if (bundle != 0) Append(members_, std::to_string(alarm) + "|" + std::to_string(bundle));
+  if (bundle != 0) members_.Append(std::to_string(alarm) + "|" + std::to_string(bundle));
 }
 
 int ExportFile::WriteAlarmLine(const std::string& alarmId) {
   const auto alarm = main_.ConfigConnection->Execute(AlarmQuery(alarmId));
-  const int number = Append(alarms_, JoinFields(*alarm, AlarmColumns));
+  const int number = alarms_.Append(JoinFields(*alarm, AlarmColumns));
   WriteCategoryLine(NullToEmpty(alarm->Field("AlarmCategory")));
   return number;
 }
@@ -66,20 +66,12 @@ void ExportFile::WriteCategoryLine(const std::string& index) {
   if (FindPrefix(categories_.Lines(), index) != 0) return;
   const auto category =
       main_.ConfigConnection->Execute("SELECT * FROM AlarmCategories WHERE Index = " + QuoteSqlText(index));
-  if (!category->Eof()) Append(categories_, JoinFields(*category, CategoryColumns));
+  if (!category->Eof()) categories_.Append(JoinFields(*category, CategoryColumns));
 }
 
 bool ExportFile::AlarmLineMissing(const std::string& alarmId) {
   const auto alarm = main_.ConfigConnection->Execute(AlarmQuery(alarmId));
   return FindPrefix(alarms_.Lines(), JoinFields(*alarm, std::span(AlarmColumns).first(FieldsOfIdentity))) == 0;
-}
-
-// A line break within a text makes lines of their own out of what follows, in any section.
-int ExportFile::Append(ExchangeSection& section, const std::string& line) {
-  const int number = section.Append(line);
-  if (line.find_first_of("\r\n") != line.npos)
-    for (ExchangeSection* changed : {&alarms_, &categories_, &bundles_, &members_}) changed->Load();
-  return number;
 }
 
 }  // namespace corvane

@@ -28,7 +28,6 @@ class ExportFile {
   int WriteAlarmLine(const std::string& alarmId);
   void WriteCategoryLine(const std::string& index);
   bool AlarmLineMissing(const std::string& alarmId);
-  int Append(ExchangeSection& section, const std::string& line);
 
   modMain& main_;
   ExchangeSection alarms_;

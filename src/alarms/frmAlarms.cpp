@@ -245,7 +245,7 @@ void frmAlarms::LoadAlarmFields() {
 }
 
 void frmAlarms::cmdSave_Click() {
-  if (mode_ == EditMode::None || !fields_.ValidateThresholds()) return;
+  if (!fields_.ValidateThresholds()) return;
   frmAlarmInformation information(main_, place_);
   information.InitForm(tvAlarms);
   information.ShowModal();

@@ -120,6 +120,7 @@ TEST_F(AlarmEditorTest, TheDialogBeginsWhereTheTreeStands) {
       EXPECT_EQ("Alarm Information", dialog.Caption);
       EXPECT_EQ(c[1], dialog.lstOS.Text() + "|" + dialog.lstLogType.Text() + "|" + dialog.lstCategory.Text()) << c[0];
       EXPECT_EQ(c[2], std::to_string(dialog.lstLogType.Count()));
+      EXPECT_EQ("", dialog.txtName.Text + dialog.txtDescription.Text) << "a new alarm has none of what was selected";
       Host.Click(dialog.cmdCancel);
     });
     Host.Click(Form.cmdSave);
@@ -161,7 +162,9 @@ TEST_F(AlarmEditorTest, TheDialogRefusesInItsOrder) {
       Host.Click(dialog.cmdOK);
       EXPECT_FALSE(dialog.IsUnloaded());
     }
-    EXPECT_EQ(249, dialog.txtDescription.MaxLength);
+    dialog.txtDescription.Text.clear();
+    Host.Type(dialog.txtDescription, "one\r\n" + std::string(300, 'x'));
+    EXPECT_EQ("one" + std::string(246, 'x'), dialog.txtDescription.Text) << "a line break would end it in a file";
     // Another class may have the name.
     dialog.txtName.Text = "Old";
     Host.Type(dialog.lstCategory, longText);
@@ -183,18 +186,25 @@ TEST_F(AlarmEditorTest, AnEditKeepsItsNameAndMakesNoCategory) {
     if (std::string(name) == "Disk Full") OnMessage("NameInUse", name);
     OnInformation([&, category = category, name = name](frmAlarmInformation& dialog) {
       EXPECT_EQ("Disk full", dialog.txtName.Text);
-      Fill(dialog, std::string("txtName=") + name + ";lstCategory=" + category);
+      Fill(dialog, std::string("txtDescription=Mend it.;txtName=") + name + ";lstCategory=" + category);
       Host.Click(dialog.cmdOK);
       if (dialog.IsUnloaded()) return;
       dialog.txtName.Text = "Disk full";  // Its own name passes, in its own case.
       Host.Click(dialog.cmdOK);
     });
     Host.Click(Form.cmdSave);
+    EXPECT_EQ(name == std::string("Disk full") ? "Mend it." : "", Form.txtDescription.Text)
+        << "the comment is read afresh";
     EXPECT_EQ(std::string(category) + "_2|7|" + id, Console.Rows("SELECT AlarmCategory, Category, AlarmID FROM Alarms "
                                                                  "WHERE Name = 'Disk full'"));
   }
-  EXPECT_EQ("4\n", Console.Rows("SELECT COUNT(*) FROM AlarmCategories")) << "no row for the category that was typed";
   EXPECT_NE(0, Form.tvAlarms.Find(Full)) << "an edited leaf is not read afresh";
+  Pick(Disk);
+  Host.Click(Form.cmdAdd);
+  OnInformation("txtName=Other;lstCategory=DISK errors");
+  Host.Click(Form.cmdSave);
+  EXPECT_EQ("1\n", Console.Rows("SELECT COUNT(*) FROM Alarms WHERE AlarmCategory GLOB 'DISK errors_2'"));
+  EXPECT_EQ("4\n", Console.Rows("SELECT COUNT(*) FROM AlarmCategories")) << "no row for the category that was typed";
 }
 
 // Markers go where the caret stood at the last change or click; one is a change itself.
