@@ -26,6 +26,10 @@ class IdleHost : public ui::UiHost {
                                                     const ui::ContainersOf&) override {
     return std::nullopt;
   }
+  std::string InputBox(const std::string&, const std::string&) override { return {}; }
+  std::optional<std::string> PromptConnection(const ui::ConnectionPrompt&) override { return std::nullopt; }
+  void Repaint() override {}
+  void Post(std::function<void()>) override {}
   void SetClipboardText(const std::string&) override {}
   void Beep() override {}
   void PopupMenu(ui::MenuItem&) override {}

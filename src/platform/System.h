@@ -7,6 +7,17 @@
 
 namespace corvane {
 
+/// How local time stands to that of Greenwich, in minutes: Greenwich = local time + bias.
+struct TimeZone {
+  enum class Season { None, Standard, Daylight };
+
+  int Bias = 0;
+  /// What is added in the two seasons, and the month in which each begins; 0 in a zone without them.
+  int StandardBias = 0, DaylightBias = 0;
+  int StandardMonth = 0, DaylightMonth = 0;
+  Season Now = Season::None;
+};
+
 /// What the console asks about the machine and the user it runs for.
 class System {
  public:
@@ -24,6 +35,8 @@ class System {
   virtual std::string WindowsFolder() = 0;
   /// The present local time. Every call reads the clock anew.
   virtual DateTime Now() = 0;
+  /// The zone of local time. Every call asks anew.
+  virtual corvane::TimeZone TimeZone() = 0;
 };
 
 }  // namespace corvane

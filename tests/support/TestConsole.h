@@ -25,8 +25,10 @@ class TestSystem : public System {
   std::string ProgramFolder() override { return real_.ProgramFolder(); }
   std::string WindowsFolder() override { return real_.WindowsFolder(); }
   DateTime Now() override { return Clock(); }
+  corvane::TimeZone TimeZone() override { return Zone; }
 
   int Version = 6;
+  corvane::TimeZone Zone;
   std::function<DateTime()> Clock = [] { return MakeDateTime(2026, 11, 16, 14, 5, 9); };
 
  private:

@@ -19,4 +19,6 @@ std::string LabSystem::WindowsFolder() { return machine_.WindowsFolder(); }
 
 DateTime LabSystem::Now() { return machine_.Now(); }
 
+corvane::TimeZone LabSystem::TimeZone() { return machine_.TimeZone(); }
+
 }  // namespace corvane

@@ -18,6 +18,7 @@ class LabSystem : public System {
   std::string ProgramFolder() override;
   std::string WindowsFolder() override;
   DateTime Now() override;
+  corvane::TimeZone TimeZone() override;
 
  private:
   LabNetwork& network_;

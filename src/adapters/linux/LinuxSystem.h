@@ -18,6 +18,7 @@ class LinuxSystem : public System {
   std::string WindowsFolder() override;
   /// The zone is that of the `TZ` variable, else of the machine.
   DateTime Now() override;
+  corvane::TimeZone TimeZone() override;
 
  private:
   int majorVersion_;

@@ -24,12 +24,16 @@ bool Dispatcher::IsHeld() const { return writing_ > 0 || asleep_ > 0 || failure_
 void Dispatcher::Fire(FormView& view, ui::Handler handler) {
   if (!handler || IsHeld()) return;
   Drain();
-  RunHandler(view, handler);
+  RunHandler(&view, handler);
 }
 
 void Dispatcher::Postpone(FormView& view, ui::Handler handler) {
-  if (!handler || writing_ > 0 || failure_ != nullptr) return;
-  postponed_.push_back({&view, std::move(handler)});
+  if (handler && writing_ == 0) Keep(&view, std::move(handler));
+}
+
+void Dispatcher::Keep(FormView* view, ui::Handler handler) {
+  if (failure_ != nullptr) return;
+  postponed_.push_back({view, std::move(handler)});
   drain_.start();
 }
 
@@ -38,7 +42,7 @@ void Dispatcher::Drain() {
   while (!postponed_.empty() && !IsHeld()) {
     const Event event = std::move(postponed_.front());
     postponed_.erase(postponed_.begin());
-    RunHandler(*event.View, event.Run);
+    RunHandler(event.View, event.Run);
   }
 }
 
@@ -46,8 +50,8 @@ void Dispatcher::Forget(const FormView& view) {
   std::erase_if(postponed_, [&](const Event& event) { return event.View == &view; });
 }
 
-void Dispatcher::RunHandler(FormView& view, const ui::Handler& handler) {
-  if (IsHeld() || !view.IsOpen()) return;
+void Dispatcher::RunHandler(FormView* view, const ui::Handler& handler) {
+  if (IsHeld() || (view != nullptr && !view->IsOpen())) return;
   ++depth_;
   try {
     handler();

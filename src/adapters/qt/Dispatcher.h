@@ -24,6 +24,8 @@ class Dispatcher {
   void Fire(FormView& view, ui::Handler handler);
   /// Fires once the present event is done with: for widgets that must not change under their own event.
   void Postpone(FormView& view, ui::Handler handler);
+  /// The same for what belongs to no form.
+  void Postpone(ui::Handler handler) { Keep(nullptr, std::move(handler)); }
   /// Fires all that is postponed.
   void Drain();
   /// Drops what is postponed for a form that goes.
@@ -65,11 +67,13 @@ class Dispatcher {
 
  private:
   struct Event {
+    /// Null for what belongs to no form.
     FormView* View;
     ui::Handler Run;
   };
 
-  void RunHandler(FormView& view, const ui::Handler& handler);
+  void Keep(FormView* view, ui::Handler handler);
+  void RunHandler(FormView* view, const ui::Handler& handler);
   void Fail(std::exception_ptr failure);
 
   std::function<void()> flush_;

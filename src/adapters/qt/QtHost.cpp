@@ -4,11 +4,14 @@
 #include <QClipboard>
 #include <QCursor>
 #include <QFileDialog>
+#include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QStandardPaths>
 #include <QThread>
 #include <algorithm>
 
+#include "adapters/qt/ConnectionDialog.h"
 #include "adapters/qt/ContainerDialog.h"
 #include "adapters/qt/FormView.h"
 #include "adapters/qt/HelpWindow.h"
@@ -23,6 +26,7 @@ namespace {
 
 constexpr int EventsInterval = 10;
 constexpr int SleepSlice = 10;
+constexpr int InputBoxWidth = 460;
 
 QMessageBox::Icon IconOf(ui::MsgIcon icon) {
   switch (icon) {
@@ -215,8 +219,30 @@ std::optional<std::string> QtHost::OpenFile(const ui::OpenDialog& dialog) {
   QFileDialog chooser(nullptr, ToQt(dialog.Title), FirstFolder(), ToQt(dialog.Filter));
   chooser.setObjectName("OpenDialog");
   chooser.setAcceptMode(QFileDialog::AcceptOpen);
-  chooser.setFileMode(QFileDialog::ExistingFile);
+  chooser.setFileMode(dialog.MayBeNew ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  if (dialog.MayBeNew) chooser.setLabelText(QFileDialog::Accept, "&Choose");
   return ChosenFile(chooser);
+}
+
+std::string QtHost::InputBox(const std::string& text, const std::string& title) {
+  dispatcher_.Rethrow();
+  Flush();
+  QInputDialog box;
+  box.setObjectName("InputBox");
+  box.setWindowTitle(ToQt(title));
+  box.setLabelText(PlainToolTip(text));
+  for (QLabel* label : box.findChildren<QLabel*>()) label->setWordWrap(true);
+  box.resize(InputBoxWidth, box.sizeHint().height());
+  RunDialog(box);
+  return box.result() == QDialog::Accepted ? FromQt(box.textValue()) : std::string();
+}
+
+std::optional<std::string> QtHost::PromptConnection(const ui::ConnectionPrompt& prompt) {
+  dispatcher_.Rethrow();
+  Flush();
+  ConnectionDialog dialog(Title, prompt);
+  RunDialog(dialog);
+  return dialog.Chosen();
 }
 
 std::optional<DirectoryContainer> QtHost::ChooseContainer(const std::string& title, const DirectoryContainer& root,
@@ -256,6 +282,20 @@ void QtHost::DoEvents() {
   QCoreApplication::processEvents();
   sinceEvents_.start();
   dispatcher_.Rethrow();
+}
+
+void QtHost::Repaint() {
+  if (sinceEvents_.isValid() && sinceEvents_.elapsed() < EventsInterval) return;
+  Flush();
+  const Dispatcher::Asleep asleep(dispatcher_);
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  sinceEvents_.start();
+}
+
+// The timer is only the object of this thread that the action is sent to: what is on its way dies with the host.
+void QtHost::Post(std::function<void()> action) {
+  QMetaObject::invokeMethod(
+      &clearing_, [this, action = std::move(action)] { dispatcher_.Postpone(action); }, Qt::QueuedConnection);
 }
 
 // Windows paint meanwhile, but what the user does waits for the next loop.

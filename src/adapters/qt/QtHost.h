@@ -38,6 +38,8 @@ class QtHost : public ui::UiHost {
                        const std::string& title) override;
   std::optional<std::string> SaveFile(const ui::SaveDialog& dialog) override;
   std::optional<std::string> OpenFile(const ui::OpenDialog& dialog) override;
+  std::string InputBox(const std::string& text, const std::string& title) override;
+  std::optional<std::string> PromptConnection(const ui::ConnectionPrompt& prompt) override;
   std::optional<DirectoryContainer> ChooseContainer(const std::string& title, const DirectoryContainer& root,
                                                     const ui::ContainersOf& containersOf) override;
   void SetClipboardText(const std::string& text) override;
@@ -45,6 +47,8 @@ class QtHost : public ui::UiHost {
   void PopupMenu(ui::MenuItem& menu) override;
   void SetFocus(ui::Control& control) override;
   void DoEvents() override;
+  void Repaint() override;
+  void Post(std::function<void()> action) override;
   void Sleep(int milliseconds) override;
   void ShowHelp(int context) override;
   void CloseHelp() override;

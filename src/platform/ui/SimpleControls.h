@@ -81,6 +81,8 @@ struct TextBox : Control {
   bool MultiLine = false;
   /// Shown as dots, and never copied or undone.
   bool IsPassword = false;
+  /// Drawn on a ground of its own, so that the user sees which of several boxes a button will act on.
+  bool Highlighted = false;
   /// The most characters that the user may type; 0 for any number.
   int MaxLength = 0;
   /// Where the caret stands: the count of characters before it, a line break of several lines counting as two.

@@ -31,6 +31,15 @@ struct OpenDialog {
   std::string Title;
   /// Such as "HTML files (*.htm)".
   std::string Filter;
+  /// A name that no file has yet may be typed, too.
+  bool MayBeNew = false;
+};
+
+/// What the prompt for a connection offers, and how it tries one out.
+struct ConnectionPrompt {
+  std::vector<std::string> Drivers, DataSources;
+  /// Opens a connection by its string; empty when that went well, else what is wrong.
+  std::function<std::string(const std::string& connectionString)> Test;
 };
 
 /// The containers directly within that of a path. Raises when they cannot be read.
@@ -69,6 +78,10 @@ class UiHost {
   virtual std::optional<std::string> SaveFile(const SaveDialog& dialog) = 0;
   /// Asks for a file to read. The path of one that is there, with `\\` as separator, or nothing when the user cancels.
   virtual std::optional<std::string> OpenFile(const OpenDialog& dialog) = 0;
+  /// Asks for one line of text. Empty when the user cancels.
+  virtual std::string InputBox(const std::string& text, const std::string& title) = 0;
+  /// Lets the user put a connection string together from a driver or a data source. Nothing when the user cancels.
+  virtual std::optional<std::string> PromptConnection(const ConnectionPrompt& prompt) = 0;
   /// Lets the user choose a container below `root`, whose tree is read as its branches are opened. Nothing when the
   /// user cancels. What cannot be read is told in the dialog.
   virtual std::optional<DirectoryContainer> ChooseContainer(const std::string& title, const DirectoryContainer& root,
@@ -81,6 +94,10 @@ class UiHost {
 
   /// Serves pending window events, input included. May be called often: it acts at most every 10 ms.
   virtual void DoEvents() = 0;
+  /// Shows what has changed and paints, without serving input. May be called often: it acts at most every 10 ms.
+  virtual void Repaint() = 0;
+  /// Runs this on the program's one thread as soon as a loop serves events. May be called from any thread.
+  virtual void Post(std::function<void()> action) = 0;
   /// Waits without serving input.
   virtual void Sleep(int milliseconds) = 0;
 

@@ -1,5 +1,6 @@
 #include "adapters/qt/bindings/TextBoxBinding.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -33,6 +34,19 @@ int PositionOf(const QString& text, int caret) {
 
 }  // namespace
 
+// Half-way between the ground of a box and the colour of a selection, so that it fits a dark theme too.
+void ShowHighlight(QWidget& widget, bool highlighted) {
+  if (highlighted == widget.testAttribute(Qt::WA_SetPalette)) return;
+  if (!highlighted) return widget.setPalette(QPalette());
+  const QPalette own = QApplication::palette(&widget);
+  const QColor ground = own.color(QPalette::Base), mark = own.color(QPalette::Highlight);
+  const auto mix = [](int a, int b) { return (4 * a + b) / 5; };
+  QPalette palette;
+  palette.setColor(QPalette::Base, QColor(mix(ground.red(), mark.red()), mix(ground.green(), mark.green()),
+                                          mix(ground.blue(), mark.blue())));
+  widget.setPalette(palette);
+}
+
 LineBinding::LineBinding(FormView& view, ui::TextBox& control, QLineEdit* line)
     : Binding(view, control, line), control_(control), line_(line) {
   if (control.KeyPress) line->setValidator(new CharacterFilter(control, this));
@@ -62,6 +76,7 @@ void LineBinding::Update() {
     line_->setMaxLength(length);
   if (const QString text = ToQt(control_.Text); line_->text() != text) line_->setText(text);
   if (line_->isReadOnly() != control_.Locked) line_->setReadOnly(control_.Locked);
+  ShowHighlight(*line_, control_.Highlighted);
 }
 
 TextBinding::TextBinding(FormView& view, ui::TextBox& control, QPlainTextEdit* text)
@@ -119,6 +134,7 @@ void TextBinding::Update() {
   if (isNew) text_->setPlainText(ToQt(shown_ = control_.Text));
   if (isNew || control_.SelStart != shownCaret_) MoveCaret();
   if (text_->isReadOnly() != control_.Locked) text_->setReadOnly(control_.Locked);
+  ShowHighlight(*text_, control_.Highlighted);
 }
 
 void TextBinding::MoveCaret() {

@@ -10,6 +10,9 @@ class QPlainTextEdit;
 
 namespace corvane::qt {
 
+/// The ground on which a box is drawn that a button will act on.
+void ShowHighlight(QWidget& widget, bool highlighted);
+
 /// A text box of one line.
 class LineBinding : public Binding {
  public:
