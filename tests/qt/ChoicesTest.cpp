@@ -1,4 +1,7 @@
 #include <QClipboard>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTreeWidget>
 
@@ -125,6 +128,39 @@ TEST_F(HostTest, AContainerIsChosenFromItsTree) {
     tree.setCurrentItem(tree.topLevelItem(0));
     QTest::keyClick(&dialog, Qt::Key_Escape);
   }));
+}
+
+TEST_F(HostTest, ATextIsAskedForAndAConnectionPutTogether) {
+  const auto answer = [](const char* line, const char* text, Qt::Key key) {
+    Soon([=] {
+      QWidget& dialog = *QApplication::activeModalWidget();
+      QTest::keyClicks(dialog.findChild<QLineEdit*>(line), text);
+      QTest::keyClick(&dialog, key);
+    });
+  };
+  answer("", "dbo", Qt::Key_Return);
+  EXPECT_EQ("dbo", Host.InputBox("Which <schema>?", "Enter Schema"));
+  answer("", "dbo", Qt::Key_Escape);
+  EXPECT_EQ("", Host.InputBox("Which schema?", "Enter Schema"));
+  std::string tried;
+  const ui::ConnectionPrompt prompt{{"Driver A", "Driver B"}, {}, [&](const std::string& text) {
+                                      tried = text;
+                                      return "Server not found";
+                                    }};
+  Soon([&] {
+    QWidget& dialog = *QApplication::activeModalWidget();
+    dialog.findChild<QComboBox*>("driver")->setCurrentIndex(1);
+    for (const auto& [line, text] :
+         {std::pair("server", "db1"), {"user", "a;b"}, {"password", "p}=q"}, {"other", "X=1"}})
+      QTest::keyClicks(dialog.findChild<QLineEdit*>(line), text);
+    dialog.findChild<QPushButton*>("test")->click();
+    EXPECT_EQ("Server not found", dialog.findChild<QLabel*>("outcome")->text());
+    dialog.findChild<QPushButton*>("ok")->click();
+  });
+  EXPECT_EQ("DRIVER={Driver B};SERVER=db1;UID={a;b};PWD={p}}=q};X=1;", Host.PromptConnection(prompt));
+  EXPECT_EQ("DRIVER={Driver B};SERVER=db1;UID={a;b};PWD={p}}=q};X=1;", tried);
+  answer("server", "", Qt::Key_Escape);
+  EXPECT_EQ(std::nullopt, Host.PromptConnection(prompt));
 }
 
 }  // namespace corvane::test

@@ -3,6 +3,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QToolButton>
+#include <thread>
 
 #include "HostFixture.h"
 #include "platform/RuntimeError.h"
@@ -227,6 +228,23 @@ TEST_F(HostTest, SleepPaintsButRunsNoHandler) {
   EXPECT_EQ("shown", Window(form).windowTitle());
   Serve(30);
   EXPECT_GT(ticks, 0);
+}
+
+// What comes from another thread waits for a loop; painting in between runs nothing.
+TEST_F(HostTest, PostedActionsRunInTheLoopAndNotWhileRepainting) {
+  const auto own = std::this_thread::get_id();
+  form.Show();
+  std::thread([&] {
+    Host.Post([&] { form.Caption = std::this_thread::get_id() == own ? "posted" : "elsewhere"; });
+  }).join();
+  form.Caption = "shown";
+  Host.Repaint();
+  EXPECT_EQ("shown", Window(form).windowTitle());
+  Serve(20);
+  EXPECT_EQ("posted", Window(form).windowTitle());
+  frmTest other(Host);
+  Host.Post(Fail);
+  EXPECT_THROW(Host.ShowModal(other), RuntimeError);
 }
 
 TEST_F(HostTest, ATimerTicksWhileEnabledAndNeverIntoItself) {
