@@ -98,6 +98,13 @@ TEST_F(ImportTest, LinksToTheBundleOfTheFirstLineThatBeginsWithTheName) {
   OnMessage("BundleLinks", "Disk full:  " + std::to_string(errors::DataLocked) + "\tThe row is locked");
   Finish(form, form.cmdImport, "Imported");
   EXPECT_EQ("Brought|Disk|Disk-s|7|8\n", Console.Rows("SELECT * FROM Linked"));
+  // Imported once more an alarm stands in its bundle once.
+  WriteAlarms("Disk" + Rest, "", "");
+  frmAlarmImport again(Main);
+  Choose(again);
+  OnMessage("Overwrite", "Disk", ui::MsgResult::Yes);
+  Finish(again, again.cmdImport, "Imported");
+  EXPECT_EQ("Brought|Disk|Disk-s|7|8\n", Console.Rows("SELECT * FROM Linked"));
 }
 
 }  // namespace corvane::test
