@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "alarms/BundleStore.h"
-#include "alarms/TellFailure.h"
 #include "core/PassOver.h"
+#include "core/TellFailure.h"
 #include "platform/Conversions.h"
 
 namespace corvane {

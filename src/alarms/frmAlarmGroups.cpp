@@ -4,8 +4,8 @@
 
 #include "alarms/BundleStore.h"
 #include "alarms/Bundles.h"
-#include "alarms/TellFailure.h"
 #include "core/ConfigDatabase.h"
+#include "core/TellFailure.h"
 
 namespace corvane {
 namespace {

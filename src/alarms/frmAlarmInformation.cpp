@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "alarms/AlarmStore.h"
-#include "alarms/TellFailure.h"
 #include "core/SqlText.h"
+#include "core/TellFailure.h"
 #include "platform/Conversions.h"
 
 namespace corvane {

@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "alarms/AlarmStore.h"
-#include "alarms/TellFailure.h"
 #include "alarms/frmAlarmInformation.h"
 #include "core/PassOver.h"
+#include "core/TellFailure.h"
 
 namespace corvane {
 namespace {
