@@ -79,15 +79,11 @@ void frmAlarmInformation::InitForm(const ui::TreeView& catalogue) {
   if (catalogue.Selected() != 0) Preselect(catalogue, catalogue.Selected());
 }
 
-// What the node is called and what stands above it, from the top down, goes into the lists.
+// What stands above the node, and the node itself unless it is an alarm, goes into the lists from the top down.
 void frmAlarmInformation::Preselect(const ui::TreeView& catalogue, ui::NodeId node) {
-  const std::string& key = catalogue.Node(node).Key;
   std::vector<std::string> path;
   for (ui::NodeId above = node; above != 0; above = catalogue.Node(above).Parent)
     path.insert(path.begin(), catalogue.Node(above).Text);
-  // An alarm's name may hold what looks like the key of an OS class, so the longest path is tested first.
-  const bool isAlarm = key.find("ALARM\\") != key.npos;
-  if (isAlarm) path.pop_back();
   if (ChooseText(lstOS, path.at(0))) lstOS_Click();
   if (path.size() > 1 && ChooseText(lstLogType, path[1])) lstLogType_Click();
   if (path.size() > 2) ChooseText(lstCategory, path[2]);

@@ -179,6 +179,7 @@ TEST_F(AlarmEditorTest, TheDialogRefusesInItsOrder) {
 TEST_F(AlarmEditorTest, AnEditKeepsItsNameAndMakesNoCategory) {
   Pick(Full);
   const std::string id = Console.Rows("SELECT AlarmID FROM Alarms WHERE Name = 'Disk full'");
+  Console.Rows("INSERT INTO Alarms (Name, AlarmCategory) VALUES ('Disk full', 'Disk Errors_1')");
   for (const auto& [category, name] : {std::pair("DISK errors", "Disk full"), {"Far away", "Disk Full"}}) {
     Host.ClickNode(Form.tvAlarms, Form.tvAlarms.Find(Full));
     Host.Click(Form.cmdEdit);
@@ -195,9 +196,12 @@ TEST_F(AlarmEditorTest, AnEditKeepsItsNameAndMakesNoCategory) {
     Host.Click(Form.cmdSave);
     EXPECT_EQ(name == std::string("Disk full") ? "Mend it." : "", Form.txtDescription.Text)
         << "the comment is read afresh";
-    EXPECT_EQ(std::string(category) + "_2|7|" + id, Console.Rows("SELECT AlarmCategory, Category, AlarmID FROM Alarms "
-                                                                 "WHERE Name = 'Disk full'"));
+    EXPECT_EQ(std::string(category) + "_2|7|" + id,
+              Console.Rows("SELECT AlarmCategory, Category, AlarmID FROM Alarms WHERE AlarmID = " + id));
   }
+  EXPECT_EQ("Disk Errors_1|NULL\n",
+            Console.Rows("SELECT AlarmCategory, Category FROM Alarms WHERE Name = 'Disk full' AND AlarmID <> " + id))
+      << "one of the same name elsewhere is another alarm";
   EXPECT_NE(0, Form.tvAlarms.Find(Full)) << "an edited leaf is not read afresh";
   Pick(Disk);
   Host.Click(Form.cmdAdd);
