@@ -1,6 +1,6 @@
-#include "adapters/settings/CodePage.h"
 #include "adapters/settings/IniDocument.h"
 #include "fuzz/Fuzz.h"
+#include "platform/CodePage.h"
 
 // The first byte says where the name and the value end; the rest is the file.
 void corvane::fuzz::Try(const std::string& input) {
@@ -22,6 +22,6 @@ void corvane::fuzz::Try(const std::string& input) {
   const bool isPlain = (name + value).find_first_of("\r\n") == name.npos;
   Require(!hasOther || !isPlain || document.Find("Other", "Kept").has_value());
 
-  const std::string text = settings::TextOfBytes(file);
-  Require(settings::TextOfBytes(settings::BytesOfText(text)) == text);
+  const std::string text = TextOfBytes(file);
+  Require(TextOfBytes(BytesOfText(text)) == text);
 }

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "adapters/settings/CodePage.h"
+#include "platform/CodePage.h"
 
 namespace corvane::settings {
 namespace {

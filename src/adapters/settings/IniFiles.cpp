@@ -3,14 +3,12 @@
 #include <cstdint>
 #include <utility>
 
-#include "adapters/settings/CodePage.h"
 #include "adapters/settings/FileLock.h"
+#include "platform/CodePage.h"
 
 namespace corvane {
 
-using settings::BytesOfText;
 using settings::IniDocument;
-using settings::TextOfBytes;
 
 struct IniFiles::OpenFile {
   OpenFile(std::string name, std::filesystem::path path) : Name(std::move(name)), File(std::move(path)) {}

@@ -3,7 +3,11 @@
 #include <string>
 #include <string_view>
 
-namespace corvane::settings {
+namespace corvane {
+
+/// The bytes of a text in the ANSI code page (1252); "?" stands for a character that the page lacks. A byte that is no
+/// UTF-8 stays as it is.
+std::string AnsiBytes(std::string_view text);
 
 /// The bytes under which a text stands in a file that programs of the ANSI code page (1252) read too. A text with
 /// characters that the page lacks stands there in UTF-8, so that nothing is lost.
@@ -13,4 +17,4 @@ std::string BytesOfText(std::string_view text);
 /// every well-formed text.
 std::string TextOfBytes(std::string_view bytes);
 
-}  // namespace corvane::settings
+}  // namespace corvane

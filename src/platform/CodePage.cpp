@@ -1,10 +1,10 @@
-#include "adapters/settings/CodePage.h"
+#include "platform/CodePage.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdint>
 
-namespace corvane::settings {
+namespace corvane {
 namespace {
 
 // The characters of the bytes 80 to 9F; all others have the number of their byte.
@@ -73,17 +73,26 @@ void AppendUtf8(char32_t character, std::string& text) {
 
 }  // namespace
 
+std::string AnsiBytes(std::string_view text) {
+  std::string bytes;
+  while (!text.empty()) {
+    const char32_t character = TakeCharacter(text);
+    if (character == Malformed) {
+      bytes += text.front();
+      text.remove_prefix(1);
+    } else {
+      const int byte = ByteOf(character);
+      bytes += byte < 0 ? '?' : static_cast<char>(byte);
+    }
+  }
+  return bytes;
+}
+
 std::string BytesOfText(std::string_view text) {
   if (IsAscii(text)) return std::string(text);
-  std::string bytes;
-  for (std::string_view rest = text; !rest.empty();) {
-    const char32_t character = TakeCharacter(rest);
-    const int byte = character == Malformed ? -1 : ByteOf(character);
-    if (byte < 0) return std::string(text);
-    bytes += static_cast<char>(byte);
-  }
-  // Bytes that happen to be UTF-8 would be read as another text.
-  return IsUtf8(bytes) ? std::string(text) : bytes;
+  const std::string bytes = AnsiBytes(text);
+  // Characters that the page lacks, and bytes that happen to be UTF-8, would be read as another text.
+  return TextOfBytes(bytes) == text ? bytes : std::string(text);
 }
 
 std::string TextOfBytes(std::string_view bytes) {
@@ -96,4 +105,4 @@ std::string TextOfBytes(std::string_view bytes) {
   return text;
 }
 
-}  // namespace corvane::settings
+}  // namespace corvane
