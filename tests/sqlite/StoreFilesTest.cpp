@@ -17,9 +17,9 @@ static std::string With(const char* provider, const std::string& file) {
   return std::string("provider=Microsoft.Jet.OLEDB.") + provider + "; data source = C:\\Corvane\\" + file + ";";
 }
 
-static int ErrorOfOpen(TestStore& store, const std::string& connectionString) {
+static int ErrorOfOpen(TestStore& store, const std::string& connectionString, std::string* why = nullptr) {
   const auto connection = store.Provider.NewConnection();
-  const int error = ErrorOf([&] { connection->Open(connectionString); });
+  const int error = ErrorOf([&] { connection->Open(connectionString); }, why);
   EXPECT_EQ(connection->State() == ObjectState::Open, error == 0);
   return error;
 }
@@ -43,7 +43,9 @@ TEST(StoreFiles, WhatIsNotOursIsRefusedAndStaysAsItWas) {
   };
   for (const auto& [name, bytes] : files) {
     store.Place.Write(name, bytes);
-    EXPECT_EQ(ErrorOfOpen(store, With("4.0", name)), errors::DataFailure) << name;
+    std::string why;
+    EXPECT_EQ(ErrorOfOpen(store, With("4.0", name), &why), errors::DataFailure) << name;
+    EXPECT_EQ(why.find("made by Microsoft Access") != why.npos, name == "foreign.mdb"s) << why;
     EXPECT_EQ(store.Place.Read(name), bytes) << name;
     fs::remove(store.Folder / name);
   }
@@ -82,6 +84,34 @@ TEST(StoreFiles, ACatalogMakesAnEmptyDatabaseButReplacesNothing) {
   const fs::path failed = store.Folder / "failed.mdb";
   EXPECT_NE(ErrorOf([&] { SqliteProvider::CreateStore(failed, "CREATE TABLE A (B INTEGER); nonsense", 3); }), 0);
   EXPECT_FALSE(fs::exists(failed));
+}
+
+TEST(StoreFiles, ACatalogAppendsTablesThatKeepTheirTypes) {
+  TestStore store;
+  const auto catalog = store.Provider.NewCatalog();
+  catalog->Create(With("4.0", "new.mdb"));
+  EXPECT_EQ(ErrorOf([&] { catalog->Tables(); }), errors::DataClosed);
+  EXPECT_EQ(ErrorOf([&] { catalog->SetActiveConnection(With("3.51", "new.mdb")); }), errors::DataFailure);
+  catalog->SetActiveConnection(With("4.0", "new.mdb"));
+  const std::vector<NewColumn> columns = {
+      {"D", ColumnType::Date}, {"T", ColumnType::Text, 3}, {"L", ColumnType::LongText}, {"N", ColumnType::Integer}};
+  const std::string longest(64, 'z');
+  for (const std::string& name : {longest, "Two words"s, "alpha"s}) catalog->AppendTable(name, columns);
+  for (const std::string& name : {longest + "z", ""s, " a"s, "a.b"s, "a]b"s, "a\"b"s})
+    EXPECT_EQ(ErrorOf([&] { catalog->AppendTable(name, columns); }), errors::InvalidPropertyValue) << name;
+  EXPECT_EQ(ErrorOf([&] { catalog->AppendTable("ALPHA", columns); }), errors::DataSyntax);
+  Ask(store.Folder / "new.mdb", "CREATE VIEW beta AS SELECT * FROM alpha");
+  EXPECT_EQ(catalog->Tables(), (std::vector<std::string>{"alpha", "Two words", longest}));
+  const auto connection = store.Provider.NewConnection();
+  connection->Open(With("4.0", "new.mdb"));
+  const std::pair<const char*, int> rows[] = {
+      {"#11/16/2026 14:05:09#, 'abc', '007', 7", 0},      {"Null, Null, Null, Null", 0},
+      {"'soon', 'abc', '', 7", errors::DataTypeMismatch}, {"2026, 'abc', '', 7", errors::DataTypeMismatch},
+      {"Null, 'abcd', '', 7", errors::DataFieldTooSmall}, {"Null, 'abc', '', 'x'", errors::DataTypeMismatch}};
+  for (const auto& [row, error] : rows)
+    EXPECT_EQ(ErrorOf([&] { connection->Execute("INSERT INTO [Two words] VALUES (" + std::string(row) + ")"); }), error)
+        << row;
+  EXPECT_EQ(Ask(store.Folder / "new.mdb", "SELECT * FROM [Two words]"), "2026-11-16 14:05:09|abc|007|7\nNULL|NULL|NULL|NULL\n");
 }
 
 TEST(StoreFiles, WithoutSharedMemoryAJournalIsUsed) {

@@ -17,6 +17,9 @@ namespace fs = std::filesystem;
 // Where the engine keeps these numbers in the first hundred bytes of a file, highest byte first.
 constexpr std::size_t WriteVersionAt = 18, UserVersionAt = 60, ApplicationIdAt = 68;
 
+// What a database of Access itself begins with.
+constexpr char JetHeader[] = "\0\1\0\0Standard Jet DB";
+
 template <class Bytes>
 std::uint32_t NumberAt(const Bytes& bytes, std::size_t at) {
   std::uint32_t number = 0;
@@ -141,6 +144,8 @@ void SqliteDatabase::Open() {
 void SqliteDatabase::CheckOwner() const {
   const Header header = ReadHeader(engine_.get());
   const std::uint32_t format = NumberAt(header, UserVersionAt);
+  if (std::memcmp(header.data(), JetHeader, sizeof JetHeader) == 0)
+    throw Refusal(file_, "it was made by Microsoft Access, which this computer cannot read");
   if (std::memcmp(header.data(), "SQLite format 3", 16) != 0 || NumberAt(header, ApplicationIdAt) != OwnerMark ||
       format < OldestFormat)
     throw Refusal(file_, "it is damaged or no database of Corvane");

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/data/Recordset.h"
 
@@ -34,12 +35,30 @@ class Connection {
   virtual void SetLockWait(int /*milliseconds*/) {}
 };
 
-/// Creates file-based databases.
+enum class ColumnType { Integer = 3, Date = 7, Text = 202, LongText = 203 };
+
+/// A column of a table that is to be made.
+struct NewColumn {
+  std::string Name;
+  ColumnType Type;
+  /// The most characters of a text; no meaning for other types.
+  int Size = 0;
+};
+
+/// Creates file-based databases and their tables.
 class Catalog {
  public:
   virtual ~Catalog() = default;
   /// Makes an empty database at the string's `Data Source`. Raises on failure; never replaces a file that is there.
   virtual void Create(const std::string& connectionString) = 0;
+  /// Opens the database that the operations below work on. Raises as `Connection::Open` does.
+  virtual void SetActiveConnection(const std::string& connectionString) = 0;
+  /// Names of the tables of the type "TABLE", in their order: neither views nor what the system itself keeps. Raises
+  /// `DataClosed` without an active connection, as does the next one.
+  virtual std::vector<std::string> Tables() = 0;
+  /// Appends an empty table. Raises `InvalidPropertyValue` for a name that no statement could hold, and what the
+  /// database refuses, such as a name that is in use.
+  virtual void AppendTable(const std::string& name, const std::vector<NewColumn>& columns) = 0;
 };
 
 /// Makes the objects of the data layer.
