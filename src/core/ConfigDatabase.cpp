@@ -11,10 +11,6 @@
 namespace corvane {
 namespace {
 
-std::string JetString(const char* version, const std::string& path) {
-  return std::string("Provider=Microsoft.Jet.OLEDB.") + version + ";Data Source=" + path + ";";
-}
-
 bool HasNewestOSType(modMain& main) {
   const auto rows = main.Platform.Data.NewRecordset();
   rows->Open("SELECT * FROM OSTypes WHERE Index=3", *main.ConfigConnection, CursorType::ForwardOnly,
@@ -50,6 +46,10 @@ void DeleteAttachments(modMain& main, std::initializer_list<const char*> tables,
 }
 
 }  // namespace
+
+std::string JetString(const char* version, const std::string& path) {
+  return std::string("Provider=Microsoft.Jet.OLEDB.") + version + ";Data Source=" + path + ";";
+}
 
 void OpenConfigDatabase(modMain& main) {
   main.ConfigConnection = main.Platform.Data.NewConnection();

@@ -9,6 +9,9 @@ class Files;
 class modMain;
 struct Platform;
 
+/// The connection string of a file; `version` is that of the provider, "3.51" or "4.0".
+std::string JetString(const char* version, const std::string& path);
+
 /// Makes the shared connection and recordset and opens the configuration database: provider 3.51 first, 4.0 as the
 /// fallback. A file that neither opens leaves the connection closed.
 void OpenConfigDatabase(modMain& main);
