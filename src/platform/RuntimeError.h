@@ -37,6 +37,7 @@ inline constexpr int DataConstraint = -2147217873;     // 0x80040E2F: a duplicat
 inline constexpr int DataLocked = -2147217887;         // 0x80040E21: the row or file is held by another
 inline constexpr int DataReadOnly = -2147217911;       // 0x80040E09
 inline constexpr int DataCancelled = -2147217842;      // 0x80040E4E: the user cancelled the prompt
+inline constexpr int DataLoginRefused = -2147217843;   // 0x80040E4D: a wrong user or password
 inline constexpr int DataNoItem = 3265;                // a field that the row does not have
 inline constexpr int DataNoRow = 3021;                 // no current row
 inline constexpr int DataClosed = 3704;                // the object is closed
