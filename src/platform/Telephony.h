@@ -19,7 +19,11 @@ inline constexpr std::uint32_t BearerModePassthrough = 64;
 inline constexpr std::uint32_t FeatureMakeCall = 8;
 inline constexpr std::uint32_t PrivilegeOwner = 4;
 inline constexpr std::uint32_t MessageCallState = 2;
+inline constexpr std::uint32_t CallStateBusy = 0x40;
 inline constexpr std::uint32_t CallStateConnected = 0x100;
+inline constexpr std::uint32_t CallStateDisconnected = 0x4000;
+inline constexpr int Ok = 0;
+inline constexpr int Failed = -1;
 }  // namespace line
 
 /// The telephone lines of this computer. Every call gives a status, 0 or above for success and negative for failure; a
