@@ -47,6 +47,10 @@ const LabDomain* LabModel::FindDomain(const std::string& name) const {
 
 const LabService* LabModel::FindService(const std::string& name) const { return FindByName(Services, name); }
 
+const LabModem* LabModel::FindModem(std::uint32_t number) const {
+  return FindIn(Modems, [&](const LabModem& modem) { return modem.Number == number; });
+}
+
 const LabComputer* LabModel::FindController(const std::string& domain) const {
   const LabDomain* wanted = FindDomain(domain);
   if (!wanted) return nullptr;

@@ -91,6 +91,21 @@ struct LabService {
   std::uint32_t StateAt(std::int64_t now) const;
 };
 
+/// How the other end of a call takes it.
+enum class LabAnswer { Connect, Busy, NoCarrier, NoDialTone, Nothing };
+
+/// A line device of the local computer: a modem, unless its capabilities say otherwise.
+struct LabModem {
+  std::uint32_t Number = 0;
+  /// As the computer's registry shows it; may be empty.
+  std::string Name;
+  /// Sums of the bits of the telephone port.
+  std::uint32_t MediaModes = 16, BearerModes = 64, LineFeatures = 8;
+  LabAnswer Answer = LabAnswer::Connect;
+  /// How long after dialling the answer comes, in milliseconds.
+  int AfterMs = 0;
+};
+
 /// The whole lab network, as its file says.
 struct LabModel {
   std::string LocalComputer, User;
@@ -99,12 +114,14 @@ struct LabModel {
   std::vector<LabDomain> Domains;
   std::vector<LabComputer> Computers;
   std::vector<LabService> Services;
+  std::vector<LabModem> Modems;
 
   /// By flat name, full DNS name or address, with or without leading `\\`; an empty name is the local computer.
   const LabComputer* FindComputer(const std::string& name) const;
   /// By flat or DNS name.
   const LabDomain* FindDomain(const std::string& name) const;
   const LabService* FindService(const std::string& name) const;
+  const LabModem* FindModem(std::uint32_t number) const;
   /// The first controller of the domain that is switched on.
   const LabComputer* FindController(const std::string& domain) const;
   /// The names of the accounts that a computer keeps: its own, or those of its domain for a controller.

@@ -16,6 +16,7 @@ using Section = LabFile::Section;
 
 constexpr std::uint32_t SecondsOfDay = 86400;
 constexpr std::uint32_t LongestWait = 600000;
+constexpr std::uint32_t LastModem = 99;
 // What still fits into the 32 bits of a registry value, in bytes and in seconds.
 constexpr std::uint32_t LargestKilobytes = 4194303, LongestDays = 49710;
 
@@ -174,6 +175,8 @@ class Reader {
       ReadComputer(section, name);
     else if (SameText(kind, "Service"))
       ReadService(section, name);
+    else if (SameText(kind, "Modem"))
+      ReadModem(section, name);
     else
       LabFile::RaiseAt(section.Line, kind + " is no kind of section");
   }
@@ -332,6 +335,24 @@ class Reader {
                          s.RefusesControl = choice >= 1;
                          s.RefusesRead = choice == 2;
                        }}});
+  }
+
+  void ReadModem(const Section& section, const std::string& name) {
+    LabModem read;
+    read.Number = ToNumber(name, {"the number of a modem", name, section.Line}, LastModem);
+    if (Model.FindModem(read.Number)) LabFile::RaiseAt(section.Line, "modem " + name + " stands twice");
+    Fill<LabModem>(read, section,
+                   {{"Name", [](LabModem& m, const Entry& e) { m.Name = e.Value; }},
+                    {"MediaModes", [](LabModem& m, const Entry& e) { m.MediaModes = ToNumber(e.Value, e); }},
+                    {"BearerModes", [](LabModem& m, const Entry& e) { m.BearerModes = ToNumber(e.Value, e); }},
+                    {"LineFeatures", [](LabModem& m, const Entry& e) { m.LineFeatures = ToNumber(e.Value, e); }},
+                    {"Answer",
+                     [](LabModem& m, const Entry& e) {
+                       m.Answer = static_cast<LabAnswer>(
+                           ToChoice(e, {"connect", "busy", "no carrier", "no dial tone", "nothing"}));
+                     }},
+                    {"After", [](LabModem& m, const Entry& e) { m.AfterMs = ToMilliseconds(e); }}});
+    Model.Modems.push_back(read);
   }
 
   void CheckTrusts(const LabFile& file) const {
