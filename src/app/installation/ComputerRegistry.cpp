@@ -2,6 +2,7 @@
 
 #include "adapters/lab/LabModel.h"
 #include "app/installation/RegistryImage.h"
+#include "core/Settings.h"
 
 namespace corvane {
 
@@ -14,6 +15,12 @@ void DescribeComputer(const LabComputer& computer, RegistryImage& registry) {
     registry.SetNumber(key, "MaxSize", log.MaxSize);
     registry.SetNumber(key, "Retention", log.Retention);
   }
+}
+
+void DescribeModems(const LabModel& lab, RegistryImage& registry) {
+  const std::string modems = std::string(R"(HKEY_LOCAL_MACHINE\)") + ModemsKey + R"(\000)";
+  for (const LabModem& modem : lab.Modems)
+    if (!modem.Name.empty()) registry.SetText(modems + std::to_string(modem.Number), "FriendlyName", modem.Name);
 }
 
 }  // namespace corvane

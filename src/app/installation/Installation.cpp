@@ -106,6 +106,7 @@ void Installation::MakeDatabase(const fs::path& folder, const Catalogue& catalog
 void Installation::MakeRegistries(const fs::path& folder, const LabModel& lab, Kind kind) const {
   RegistryImage settings;
   settings.Read(data_ / "settings.reg");
+  DescribeModems(lab, settings);
   for (const LabComputer& computer : lab.Computers) {
     if (SameText(computer.Name, lab.LocalComputer)) {
       DescribeComputer(computer, settings);
