@@ -51,7 +51,7 @@ bool TargetTables::Exists(const std::string& path) const {
   try {
     main_.Platform.Files.Length(path);
   } catch (const RuntimeError& error) {
-    return error.Number != errors::FileNotFound;
+    return error.Number != errors::FileNotFound && error.Number != errors::PathNotFound;
   }
   return true;
 }

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/RuntimeError.h"
+#include "platform/data/TargetConnection.h"
+
+namespace corvane::test {
+
+/// A system behind ODBC that is not there: it names itself as a test says, and notes what it is asked.
+class TestTargets : public TargetConnector {
+ public:
+  std::unique_ptr<TargetConnection> Open(const std::string& connectionString) override {
+    Meet(connectionString);
+    return std::make_unique<Connection>(*this, connectionString);
+  }
+  std::vector<std::string> Drivers() override { return {"A driver"}; }
+  std::vector<std::string> DataSources() override { return {"events"}; }
+
+  std::string DbmsName = "Microsoft SQL Server";
+  std::vector<TargetTable> Tables;
+  /// The strings of connections and the statements, in order.
+  std::vector<std::string> Calls;
+  /// What holds this text fails.
+  std::string Fails;
+
+ private:
+  void Meet(const std::string& call) {
+    Calls.push_back(call);
+    if (!Fails.empty() && call.find(Fails) != call.npos)
+      throw RuntimeError(errors::DataFailure, "It is not to be", "A driver");
+  }
+  struct Connection : TargetConnection {
+    Connection(TestTargets& owner, std::string text) : Owner(owner), Text(std::move(text)) {}
+    std::string ConnectionString() const override { return Text; }
+    std::string DbmsName() const override { return Owner.DbmsName; }
+    std::vector<TargetTable> Tables() override { return Owner.Tables; }
+    void Execute(const std::string& sql) override { Owner.Meet(sql); }
+    TestTargets& Owner;
+    std::string Text;
+  };
+};
+
+}  // namespace corvane::test
