@@ -61,6 +61,27 @@ TEST_F(HostTest, ABoxRefusesCharactersHoweverTheyCome) {
   EXPECT_EQ(QLineEdit::Password, WidgetOf<QLineEdit>(other.txtName).echoMode());
 }
 
+TEST_F(HostTest, AFullLineTellsWhatItRefusesAndTheCaretGoesWhereItIsPut) {
+  form.txtName.Text = "192";
+  form.txtName.MaxLength = 3;
+  form.txtName.KeyPress = [](char32_t character) { return character != '.'; };
+  form.txtName.Refused = [&] { Host.SetFocus(form.lstLog); };
+  form.Show();
+  auto& line = WidgetOf<QLineEdit>(form.txtName);
+  QTest::keyClicks(&line, "7");
+  EXPECT_EQ(&line, Window(form).focusWidget());
+  QTest::keyClicks(&line, ".");
+  EXPECT_EQ(&WidgetOf(form.lstLog), Window(form).focusWidget());
+  EXPECT_EQ("192", form.txtName.Text);
+  for (const int caret : {1, 3, 0}) {
+    InHandler([&] { form.txtName.SelStart = caret; });
+    EXPECT_EQ(caret, line.cursorPosition());
+  }
+  InHandler([&] { form.txtName.Text = "10"; });
+  EXPECT_EQ(2, line.cursorPosition()) << "behind a new text where nothing else is said";
+  EXPECT_EQ(2, form.txtName.SelStart);
+}
+
 TEST_F(HostTest, ABoxOfSeveralLinesTellsItsCaretAndRefusesLikeTheOthers) {
   std::string order;
   form.txtNotes.Text = "\xC3\xA4\r\nb";

@@ -42,8 +42,11 @@ void ScriptedHost::Choose(ui::OptionButton& option) {
 void ScriptedHost::Type(ui::TextBox& box, const std::string& text) {
   if (box.Locked) ADD_FAILURE() << box.Name() << " is locked";
   for (const char character : text) {
-    const bool fits = box.MaxLength == 0 || static_cast<int>(box.Text.size()) < box.MaxLength;
-    if (!fits || (box.KeyPress && !box.KeyPress(static_cast<unsigned char>(character)))) continue;
+    if (box.KeyPress && !box.KeyPress(static_cast<unsigned char>(character))) {
+      Fire(box, box.Refused);
+      continue;
+    }
+    if (box.MaxLength > 0 && static_cast<int>(box.Text.size()) >= box.MaxLength) continue;
     box.Text += character;
     box.SelStart = static_cast<int>(box.Text.size());
     Fire(box, box.Change);

@@ -94,6 +94,8 @@ struct TextBox : Control {
   /// Asked for each character that the user types or pastes, as a Unicode code point; false refuses it. It may beep,
   /// but must not change any control.
   std::function<bool(char32_t character)> KeyPress;
+  /// The user typed a character that the box refuses, whether or not it has room. For a box of one line.
+  Handler Refused;
 };
 
 struct ProgressBar : Control {

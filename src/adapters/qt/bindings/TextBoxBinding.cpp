@@ -40,7 +40,7 @@ void ShowHighlight(QWidget& widget, bool highlighted) {
   if (!highlighted) return widget.setPalette(QPalette());
   const QPalette own = QApplication::palette(&widget);
   const QColor ground = own.color(QPalette::Base), mark = own.color(QPalette::Highlight);
-  const auto mix = [](int a, int b) { return (4 * a + b) / 5; };
+  const auto mix = [](int a, int b) { return (a + b) / 2; };
   QPalette palette;
   palette.setColor(QPalette::Base, QColor(mix(ground.red(), mark.red()), mix(ground.green(), mark.green()),
                                           mix(ground.blue(), mark.blue())));
@@ -63,20 +63,37 @@ void LineBinding::Changed(const QString& text) {
 }
 
 void LineBinding::NoteCaret() {
-  if (IsUsers()) control_.SelStart = CaretOf(line_->text().left(line_->cursorPosition()));
+  if (IsUsers()) control_.SelStart = shownCaret_ = CaretOf(line_->text().left(line_->cursorPosition()));
 }
 
+// A full line asks nobody about what is typed, so this is asked before it is tried.
 bool LineBinding::Filter(QEvent& event) {
   if (event.type() == QEvent::MouseButtonRelease) Postpone(control_.Click);
-  return false;
+  if (event.type() != QEvent::KeyPress || !Refuses(static_cast<const QKeyEvent&>(event).text())) return false;
+  Fire(control_.Refused);
+  return true;
+}
+
+bool LineBinding::Refuses(const QString& typed) const {
+  return control_.Refused && !typed.isEmpty() && typed.front().isPrint() && !control_.KeyPress(typed.toUcs4().front());
 }
 
 void LineBinding::Update() {
   if (const int length = control_.MaxLength > 0 ? control_.MaxLength : AnyLength; line_->maxLength() != length)
     line_->setMaxLength(length);
-  if (const QString text = ToQt(control_.Text); line_->text() != text) line_->setText(text);
+  if (const QString text = ToQt(control_.Text); line_->text() != text) ShowText(text);
+  if (control_.SelStart != shownCaret_) {
+    shownCaret_ = control_.SelStart;
+    line_->setCursorPosition(PositionOf(line_->text(), shownCaret_));
+  }
   if (line_->isReadOnly() != control_.Locked) line_->setReadOnly(control_.Locked);
   ShowHighlight(*line_, control_.Highlighted);
+}
+
+// The caret goes behind a new text, unless the form has put it elsewhere.
+void LineBinding::ShowText(const QString& text) {
+  line_->setText(text);
+  if (control_.SelStart == shownCaret_) control_.SelStart = shownCaret_ = CaretOf(text);
 }
 
 TextBinding::TextBinding(FormView& view, ui::TextBox& control, QPlainTextEdit* text)

@@ -24,10 +24,13 @@ class LineBinding : public Binding {
 
  private:
   void Changed(const QString& text);
+  bool Refuses(const QString& typed) const;
   void NoteCaret();
+  void ShowText(const QString& text);
 
   ui::TextBox& control_;
   QLineEdit* line_;
+  int shownCaret_ = 0;
 };
 
 /// A text box of several lines.
