@@ -46,6 +46,12 @@ class ItemViewsTest : public HostTest {
   }
 };
 
+TEST_F(ItemViewsTest, ARowHasOneLine) {
+  form.lvwRows.Add({"", "a\r\nb\nc", {}, "", false});
+  form.Show();
+  EXPECT_EQ(QString("a b c"), List().model()->index(0, 0).data().toString());
+}
+
 TEST_F(ItemViewsTest, TheSelectionGoesBothWaysAndBeforeTheRightButton) {
   Rows(6);
   std::string clicks;

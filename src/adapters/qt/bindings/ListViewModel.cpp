@@ -10,6 +10,9 @@ QVariant Alignment(const ui::ListColumn& column) {
   return QVariant::fromValue(Qt::Alignment((column.AlignRight ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter));
 }
 
+// All rows are as high as the first one.
+QString InOneLine(QString text) { return text.replace("\r\n", " ").replace('\n', ' '); }
+
 }  // namespace
 
 void ListViewModel::Sync() {
@@ -27,7 +30,7 @@ QVariant ListViewModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid() || index.row() >= list_.Count()) return {};
   switch (role) {
     case Qt::DisplayRole:
-      return ToQt(list_.Item(index.row()).Cell(index.column()));
+      return InOneLine(ToQt(list_.Item(index.row()).Cell(index.column())));
     case Qt::DecorationRole:
       return index.column() == 0 ? icons::Variant(list_.Item(index.row()).Icon) : QVariant();
     case Qt::TextAlignmentRole:
