@@ -12,6 +12,9 @@
 #include "domains/frmCustomDomainManager.h"
 #include "domains/frmDomainChooser.h"
 #include "logs/frmLogEdit.h"
+#include "notifications/frmCustomNotifications.h"
+#include "notifications/frmPriorityBuilder.h"
+#include "notifications/frmSyslogDevice.h"
 #include "support/ConsoleTest.h"
 
 namespace corvane::test {
@@ -62,12 +65,15 @@ TEST_F(ConsoleTest, CaptionsAreTheSettledOnes) {
   AlarmPlace place;
   frmAlarmInformation information(Main, place);
   information.InitForm(frmAlarms(Main).tvAlarms);
+  frmSyslogDevice device(Main);
+  device.InitForm(false, Window().lvwSyslogs);
   EXPECT_EQ(ReadTextFile(CORVANE_SOURCE_DIR "/tests/console/Captions.txt"),
             TextsOf(Window()) + TextsOn<frmBegin>(Main) + TextsOn<frmStartup>(Main) + TextsOn<frmLogEdit>(Main) +
                 TextsOf(stop) + TextsOf(start) + TextsOn<frmLogView>(Main) + TextsOn<frmDomainChooser>(Main) +
                 TextsOn<frmComputerEnum>(Main) + TextsOn<frmCustomDomainManager>(Main) +
                 TextsOn<frmServiceAccount>(Main) + TextsOn<frmAlarmGroups>(Main) + TextsOn<frmAlarmExport>(Main) +
-                TextsOn<frmAlarmImport>(Main) + TextsOn<frmAlarms>(Main) + TextsOf(information));
+                TextsOn<frmAlarmImport>(Main) + TextsOn<frmAlarms>(Main) + TextsOf(information) +
+                TextsOn<frmCustomNotifications>(Main) + TextsOf(device) + TextsOn<frmPriorityBuilder>(Main));
 }
 
 }  // namespace
