@@ -31,6 +31,13 @@ struct Record {
   std::string State, Text;
 };
 
+// The told length is not relied on: some drivers tell that of the text before it was cut off to fit.
+template <std::size_t Room>
+std::string TextOf(const std::array<SQLWCHAR, Room>& text) {
+  const auto end = std::find(text.begin(), text.end(), SQLWCHAR{0});
+  return FromWide(text.data(), static_cast<std::size_t>(end - text.begin()));
+}
+
 // One of the records of a failure, which count from 1. False when there is none left.
 bool Read(SQLSMALLINT kind, SQLHANDLE handle, SQLSMALLINT number, Record& record) {
   std::array<SQLWCHAR, SQL_SQLSTATE_SIZE + 1> state{};
@@ -40,13 +47,15 @@ bool Read(SQLSMALLINT kind, SQLHANDLE handle, SQLSMALLINT number, Record& record
   const SQLRETURN result = SQLGetDiagRecW(kind, handle, number, state.data(), &native, text.data(),
                                           static_cast<SQLSMALLINT>(text.size()), &length);
   if (!SQL_SUCCEEDED(result)) return false;
-  const auto end = std::find(text.begin(), text.end(), SQLWCHAR(0));
-  record = {FromWide(state.data(), SQL_SQLSTATE_SIZE),
-            Trim(FromWide(text.data(), static_cast<std::size_t>(end - text.begin())))};
+  record = {TextOf(state), Trim(TextOf(text))};
   return true;
 }
 
 }  // namespace
+
+// A name whose closing brace is missing swallows what stands behind it.
+OdbcErrors::OdbcErrors(const std::string& driver, OdbcString string)
+    : driver_(string.WithoutPassword(driver)), string_(std::move(string)) {}
 
 void OdbcErrors::Check(SQLRETURN result, SQLSMALLINT kind, SQLHANDLE handle) const {
   if (SQL_SUCCEEDED(result)) return;
@@ -54,10 +63,10 @@ void OdbcErrors::Check(SQLRETURN result, SQLSMALLINT kind, SQLHANDLE handle) con
   std::string state, text;
   for (SQLSMALLINT number = 1; Read(kind, handle, number, record); ++number) {
     if (number == 1) state = record.State;
-    text += (number == 1 ? "" : "\n") + record.Text + " (" + record.State + ")";
+    text += (number == 1 ? "" : "\n") + string_.WithoutPassword(record.Text) + " (" + record.State + ")";
   }
   if (text.empty()) text = "The driver failed and does not say why.";
-  throw RuntimeError(NumberOf(state), string_.WithoutPassword(text), driver_);
+  throw RuntimeError(NumberOf(state), text, driver_);
 }
 
 }  // namespace corvane

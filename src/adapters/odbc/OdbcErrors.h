@@ -12,7 +12,7 @@ namespace corvane {
 class OdbcErrors {
  public:
   /// `driver` signs the errors; `string` holds the passwords to mask.
-  OdbcErrors(std::string driver, OdbcString string) : driver_(std::move(driver)), string_(std::move(string)) {}
+  OdbcErrors(const std::string& driver, OdbcString string);
 
   /// Raises the diagnostics of the handle unless the result is a success. The number follows from the SQLSTATE (of
   /// ISO/IEC 9075 or ODBC), which stands behind each message.
