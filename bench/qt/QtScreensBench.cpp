@@ -12,6 +12,9 @@
 #include "domains/frmCustomDomainManager.h"
 #include "domains/frmDomainChooser.h"
 #include "logs/frmLogEdit.h"
+#include "notifications/frmCustomNotifications.h"
+#include "notifications/frmPriorityBuilder.h"
+#include "notifications/frmSyslogDevice.h"
 #include "qt/FaceHost.h"
 #include "support/BenchConsole.h"
 #include "support/BenchInstallation.h"
@@ -59,6 +62,12 @@ BENCHMARK(OpenScreen<frmAlarms>)->Name("alarms opened and painted")->Iterations(
 BENCHMARK(OpenScreen<frmAlarmGroups>)->Name("alarm bundles opened and painted")->Iterations(50)->UseManualTime();
 BENCHMARK(OpenScreen<frmAlarmExport>)->Name("export of alarms opened and painted")->Iterations(50)->UseManualTime();
 BENCHMARK(OpenScreen<frmAlarmImport>)->Name("import of alarms opened and painted")->Iterations(50)->UseManualTime();
+BENCHMARK(OpenScreen<frmCustomNotifications>)
+    ->Name("custom notifications opened and painted")
+    ->Iterations(50)
+    ->UseManualTime();
+BENCHMARK(OpenScreen<frmSyslogDevice>)->Name("syslog device opened and painted")->Iterations(50)->UseManualTime();
+BENCHMARK(OpenScreen<frmPriorityBuilder>)->Name("priority builder opened and painted")->Iterations(50)->UseManualTime();
 BENCHMARK(OpenScreen<frmLogView>)->Name("log viewer opened and painted")->Iterations(50)->UseManualTime();
 
 }  // namespace

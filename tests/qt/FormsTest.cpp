@@ -24,6 +24,9 @@
 #include "domains/frmCustomDomainManager.h"
 #include "domains/frmDomainChooser.h"
 #include "logs/frmLogEdit.h"
+#include "notifications/frmCustomNotifications.h"
+#include "notifications/frmPriorityBuilder.h"
+#include "notifications/frmSyslogDevice.h"
 
 namespace corvane::test {
 
@@ -46,11 +49,15 @@ class FormsTest : public StartedConsole {
     frmAlarmImport importer(State()), importFields(State());
     AlarmPlace place{"Logon failures", "Somebody tries doors.", "", "", "", false};
     frmAlarmInformation information(State(), place);
+    frmCustomNotifications templates(State()), templateFields(State());
+    frmSyslogDevice device(State());
+    frmPriorityBuilder priority(State());
     SaveCustomMappings(State(), {{"192.0.2.77", "BRANCH"}, {"KIOSK1", "LOBBY"}, {"SCANNER2", "BRANCH"}});
     State().IsNewLog = true;
     for (ui::Form* form : std::initializer_list<ui::Form*>{
-             &Main(), &begin, &splash, &about, &editor, &events, &domain, &computers, &mappings, &account, &services,
-             &alarms, &alarmFields, &bundles, &bundleFields, &exporter, &importer, &importFields, &information}) {
+             &Main(),   &begin,        &splash,      &about,     &editor,         &events,  &domain,       &computers,
+             &mappings, &account,      &services,    &alarms,    &alarmFields,    &bundles, &bundleFields, &exporter,
+             &importer, &importFields, &information, &templates, &templateFields, &device,  &priority}) {
       form->Load();
       if (form == &about) about.SetAbout(true);
       if (form == &services) services.InitForm();
@@ -61,6 +68,9 @@ class FormsTest : public StartedConsole {
         importFields.cmdView.Click();
       }
       if (form == &information) information.InitForm(alarms.tvAlarms);
+      if (form == &templateFields) templateFields.cmdAdd.Click();
+      if (form == &device) device.InitForm(false, Main().lvwSyslogs);
+      if (form == &priority) priority.InitForm(device.txtIP[0]);
       if (form != &Main()) form->Show();
       QTest::qWait(form == &editor || form == &events || form == &account ? 400 : 20);
       visit(*form);

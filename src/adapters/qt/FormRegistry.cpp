@@ -11,11 +11,14 @@
 #include "ui_frmComputerEnum.h"
 #include "ui_frmControlService.h"
 #include "ui_frmCustomDomainManager.h"
+#include "ui_frmCustomNotifications.h"
 #include "ui_frmDomainChooser.h"
 #include "ui_frmLogEdit.h"
 #include "ui_frmLogView.h"
+#include "ui_frmPriorityBuilder.h"
 #include "ui_frmServiceAccount.h"
 #include "ui_frmStartup.h"
+#include "ui_frmSyslogDevice.h"
 
 namespace corvane::qt {
 namespace {
@@ -39,11 +42,14 @@ FormRegistry FormRegistry::Console() {
   forms.Add("frmComputerEnum", {Place<Ui::frmComputerEnum>});
   forms.Add("frmControlService", {Place<Ui::frmControlService>});
   forms.Add("frmCustomDomainManager", {Place<Ui::frmCustomDomainManager>});
+  forms.Add("frmCustomNotifications", {Place<Ui::frmCustomNotifications>});
   forms.Add("frmDomainChooser", {Place<Ui::frmDomainChooser>});
   forms.Add("frmLogEdit", {Place<Ui::frmLogEdit>});
   forms.Add("frmLogView", {Place<Ui::frmLogView>});
+  forms.Add("frmPriorityBuilder", {Place<Ui::frmPriorityBuilder>});
   forms.Add("frmServiceAccount", {Place<Ui::frmServiceAccount>});
   forms.Add("frmStartup", {Place<Ui::frmStartup>, WindowFrame::None});
+  forms.Add("frmSyslogDevice", {Place<Ui::frmSyslogDevice>});
   return forms;
 }
 
