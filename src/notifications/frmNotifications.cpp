@@ -43,8 +43,8 @@ frmNotifications::frmNotifications(modMain& main, TargetConnector& connector)
   SetTabCaptions();
   WireHandlers();
   WireWays();
-  lvwNotifications.Columns = {{"Name", 2400, false},  {"E-mail", 2200, false},   {"Pager", 1400, false},
-                              {"Popup", 1400, false}, {"Database", 1400, false}, {"Syslog", 1800, false}};
+  lvwNotifications.Columns = {{"Name", 2600, false},  {"E-mail", 1900, false},   {"Pager", 1100, false},
+                              {"Popup", 1200, false}, {"Database", 1300, false}, {"Syslog", 1500, false}};
   lvwNotifications.SetMultiSelect(false);
   for (ui::TextBox* box :
        {&txtName, &txtRecipient, &txtPhone, &txtPagerString, &txtNetwork, &txtSyslogServer, &txtPriority})
@@ -61,6 +61,7 @@ void frmNotifications::SetCaptions() {
       "A notification says who is told of an event, and how: by e-mail, pager or popup, by a row in a database table, "
       "or by a message to a syslog host or the Corvane Listener Console.  One notification may use several ways at "
       "once.";
+  fraModifyNotifications.Caption = "&Notifications";
   cmdAdd.Caption = "&Add";
   cmdEdit.Caption = "&Edit";
   cmdDelete.Caption = "&Delete";
@@ -150,7 +151,8 @@ bool frmNotifications::Form_Load() {
 }
 
 void frmNotifications::ShowListFace(bool shown) {
-  ui::ShowFace({&lblInstructions, &lvwNotifications, &cmdAdd, &cmdEdit, &cmdDelete, &cmdCancel}, shown);
+  ui::ShowFace(
+      {&lblInstructions, &fraModifyNotifications, &lvwNotifications, &cmdAdd, &cmdEdit, &cmdDelete, &cmdCancel}, shown);
   ui::ShowFace({&cmdTest}, shown && Test);
   ui::ShowFace({&tabMain,
                 &lblName,

@@ -26,6 +26,7 @@ class frmNotifications : public ui::Form {
   std::function<void(const std::string& name)> Test;
 
   ui::Label lblInstructions{*this, "lblInstructions"};
+  ui::Frame fraModifyNotifications{*this, "fraModifyNotifications"};
   ui::ListView lvwNotifications{*this, "lvwNotifications"};
   ui::CommandButton cmdAdd{*this, "cmdAdd"};
   ui::CommandButton cmdEdit{*this, "cmdEdit"};

@@ -13,6 +13,8 @@ class CreateTable : public ConsoleTest {
  protected:
   void Begin(frmCreateTable::Kind kind) {
     Form.InitForm(kind);
+    const char* places[] = {"in Access", "on Microsoft SQL Server", "on Oracle"};
+    EXPECT_EQ(std::string("Create Corvane Table ") + places[static_cast<int>(kind) - 1], Form.Caption);
     EXPECT_EQ(kind == frmCreateTable::Kind::Oracle, Form.txtSchema.Visible && Form.txtTableSpace.Visible &&
                                                         Form.lblSchema.Visible && Form.lblTablespace.Visible);
   }
