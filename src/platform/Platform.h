@@ -13,6 +13,8 @@ class EventLogs;
 class EventReader;
 class Files;
 class Launcher;
+class MessageSender;
+class NamedPipes;
 class NetX;
 class Ping;
 class ProfileFiles;
@@ -20,6 +22,8 @@ class RegistryStore;
 class ServiceManager;
 class SingleInstance;
 class System;
+class TargetConnector;
+class Telephony;
 class UnitQuery;
 namespace ui {
 class UiHost;
@@ -39,6 +43,10 @@ struct Platform {
   corvane::DirectoryProvider& Directory;
   UnitQuery& Units;
   corvane::Ping& Ping;
+  MessageSender& Messages;
+  TargetConnector& Targets;
+  Telephony& Phones;
+  NamedPipes& Pipes;
   corvane::Launcher& Launcher;
   SingleInstance& Instance;
   ui::UiHost& Ui;

@@ -13,6 +13,10 @@ struct Replacements {
   corvane::NetX* NetX = nullptr;
   corvane::DirectoryProvider* Directory = nullptr;
   UnitQuery* Units = nullptr;
+  MessageSender* Messages = nullptr;
+  TargetConnector* Targets = nullptr;
+  Telephony* Phones = nullptr;
+  NamedPipes* Pipes = nullptr;
   corvane::Launcher* Launcher = nullptr;
 };
 
@@ -30,6 +34,10 @@ inline Platform Replace(const Platform& own, const Replacements& with) {
           .Directory = either(with.Directory, own.Directory),
           .Units = either(with.Units, own.Units),
           .Ping = own.Ping,
+          .Messages = either(with.Messages, own.Messages),
+          .Targets = either(with.Targets, own.Targets),
+          .Phones = either(with.Phones, own.Phones),
+          .Pipes = either(with.Pipes, own.Pipes),
           .Launcher = either(with.Launcher, own.Launcher),
           .Instance = own.Instance,
           .Ui = own.Ui,

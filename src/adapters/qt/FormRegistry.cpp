@@ -10,11 +10,14 @@
 #include "ui_frmCVMain.h"
 #include "ui_frmComputerEnum.h"
 #include "ui_frmControlService.h"
+#include "ui_frmCreateTable.h"
 #include "ui_frmCustomDomainManager.h"
 #include "ui_frmCustomNotifications.h"
 #include "ui_frmDomainChooser.h"
 #include "ui_frmLogEdit.h"
 #include "ui_frmLogView.h"
+#include "ui_frmNotifications.h"
+#include "ui_frmNotificationsTest.h"
 #include "ui_frmPriorityBuilder.h"
 #include "ui_frmServiceAccount.h"
 #include "ui_frmStartup.h"
@@ -41,11 +44,14 @@ FormRegistry FormRegistry::Console() {
   forms.Add("frmCVMain", {Place<Ui::frmCVMain>});
   forms.Add("frmComputerEnum", {Place<Ui::frmComputerEnum>});
   forms.Add("frmControlService", {Place<Ui::frmControlService>});
+  forms.Add("frmCreateTable", {Place<Ui::frmCreateTable>});
   forms.Add("frmCustomDomainManager", {Place<Ui::frmCustomDomainManager>});
   forms.Add("frmCustomNotifications", {Place<Ui::frmCustomNotifications>});
   forms.Add("frmDomainChooser", {Place<Ui::frmDomainChooser>});
   forms.Add("frmLogEdit", {Place<Ui::frmLogEdit>});
   forms.Add("frmLogView", {Place<Ui::frmLogView>});
+  forms.Add("frmNotifications", {Place<Ui::frmNotifications>});
+  forms.Add("frmNotificationsTest", {Place<Ui::frmNotificationsTest>});
   forms.Add("frmPriorityBuilder", {Place<Ui::frmPriorityBuilder>});
   forms.Add("frmServiceAccount", {Place<Ui::frmServiceAccount>});
   forms.Add("frmStartup", {Place<Ui::frmStartup>, WindowFrame::None});

@@ -10,26 +10,33 @@
 #include "adapters/lab/LabPing.h"
 #include "adapters/lab/LabServiceManager.h"
 #include "adapters/lab/LabSystem.h"
+#include "adapters/lab/LabTelephony.h"
 #include "adapters/lab/LabUnitQuery.h"
 #include "adapters/linux/HostPaths.h"
 #include "adapters/linux/JournalEventReader.h"
 #include "adapters/linux/LinuxFiles.h"
 #include "adapters/linux/LinuxLauncher.h"
+#include "adapters/linux/LinuxMessageSender.h"
+#include "adapters/linux/LinuxNamedPipes.h"
 #include "adapters/linux/LinuxPing.h"
 #include "adapters/linux/LinuxSingleInstance.h"
 #include "adapters/linux/LinuxSystem.h"
+#include "adapters/linux/SerialTelephony.h"
 #include "adapters/linux/SystemdServiceManager.h"
+#include "adapters/odbc/OdbcConnector.h"
 #include "adapters/settings/IniFiles.h"
 #include "adapters/settings/RegistryFileStore.h"
 #include "adapters/sqlite/SqliteProvider.h"
 #include "app/installation/Installation.h"
 #include "platform/Conversions.h"
+#include "platform/ui/UiHost.h"
 
 namespace corvane {
 namespace {
 
 constexpr int NewestSystem = 6;
 constexpr int PingTimeout = 2000;
+constexpr int MostModems = 10;
 
 // The choices of an installation's platform.ini.
 class PlatformChoice {
@@ -44,6 +51,16 @@ class PlatformChoice {
     profiles_.GetString(section, key, fallback, value, 4096, File());
     return value;
   }
+  /// The paths of the modems' serial devices, up to the last one that is named.
+  std::vector<std::string> SerialDevices() const {
+    std::vector<std::string> devices;
+    for (int number = 0; number < MostModems; ++number)
+      if (std::string device = Text("Telephony", "Device" + std::to_string(number)); !device.empty()) {
+        devices.resize(static_cast<std::size_t>(number));
+        devices.push_back(std::move(device));
+      }
+    return devices;
+  }
   bool Is(const char* section, const char* key, const char* choice) const {
     return SameText(Text(section, key), choice);
   }
@@ -57,7 +74,7 @@ class PlatformChoice {
 }  // namespace
 
 struct InstalledPlatform::Adapters {
-  explicit Adapters(const std::filesystem::path& folder)
+  Adapters(const std::filesystem::path& folder, ui::UiHost& host)
       : Paths(HostPaths(folder)),
         Profiles(Paths),
         Choice(Profiles),
@@ -74,6 +91,8 @@ struct InstalledPlatform::Adapters {
         Net(Network),
         Directory(Network),
         Units(Network),
+        Messages([&host] { host.Repaint(); }),
+        Pipes(folder / Installation::PipeFolder),
         Instance(folder) {
     if (Choice.Is("Ping", "Source", "linux"))
       Echo = std::make_unique<LinuxPing>(std::chrono::milliseconds(Choice.Number("Ping", "Timeout", PingTimeout)));
@@ -89,6 +108,11 @@ struct InstalledPlatform::Adapters {
       Events = std::make_unique<JournalEventReader>(LocalSystem, Paths(Choice.Text("Events", "Path")));
     else
       Events = std::make_unique<LabEventReader>(Network, folder / Installation::EventLogFolder);
+    const auto post = [&host](std::function<void()> action) { host.Post(std::move(action)); };
+    if (Choice.Is("Telephony", "Source", "serial"))
+      Phones = std::make_unique<SerialTelephony>(Choice.SerialDevices(), post);
+    else
+      Phones = std::make_unique<LabTelephony>(Network, post);
   }
 
   PathMap Paths;
@@ -107,16 +131,36 @@ struct InstalledPlatform::Adapters {
   LabDirectoryProvider Directory;
   LabUnitQuery Units;
   std::unique_ptr<Ping> Echo;
+  LinuxMessageSender Messages;
+  OdbcConnector Targets;
+  std::unique_ptr<Telephony> Phones;
+  LinuxNamedPipes Pipes;
   LinuxLauncher Launcher;
   LinuxSingleInstance Instance;
 };
 
 InstalledPlatform::InstalledPlatform(const std::filesystem::path& folder, ui::UiHost& host)
-    : adapters_(std::make_unique<Adapters>(folder)) {
+    : adapters_(std::make_unique<Adapters>(folder, host)) {
   Adapters& all = *adapters_;
-  platform_ = std::make_unique<Platform>(Platform{all.LocalSystem, all.Files, all.Registry, all.Profiles, all.Data,
-                                                  *all.Services, all.EventLogs, *all.Events, all.Net, all.Directory,
-                                                  all.Units, *all.Echo, all.Launcher, all.Instance, host,
+  platform_ = std::make_unique<Platform>(Platform{all.LocalSystem,
+                                                  all.Files,
+                                                  all.Registry,
+                                                  all.Profiles,
+                                                  all.Data,
+                                                  *all.Services,
+                                                  all.EventLogs,
+                                                  *all.Events,
+                                                  all.Net,
+                                                  all.Directory,
+                                                  all.Units,
+                                                  *all.Echo,
+                                                  all.Messages,
+                                                  all.Targets,
+                                                  *all.Phones,
+                                                  all.Pipes,
+                                                  all.Launcher,
+                                                  all.Instance,
+                                                  host,
                                                   [&all] { return std::make_unique<LabDirectoryApi>(all.Network); },
                                                   [&all] { return std::make_unique<LabChannelReader>(all.Network); }});
 }

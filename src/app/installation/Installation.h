@@ -27,6 +27,8 @@ class Installation {
   static constexpr const char* RegistryFolder = "registry";
   /// Where the event logs of the local computer of the lab lie.
   static constexpr const char* EventLogFolder = "eventlog";
+  /// Where local services keep the sockets that stand for their named pipes.
+  static constexpr const char* PipeFolder = "pipe";
   static constexpr const char* RapidConfigFolder = "RapidConfigs";
   static constexpr const char* AgentConfigFolder = "AgentConfigs";
   static constexpr const char* HelpFolder = "help";

@@ -14,6 +14,7 @@
 #include "app/tour/FirstRun.h"
 #include "app/tour/HelpPictures.h"
 #include "app/tour/MainJob.h"
+#include "app/tour/Notifications.h"
 #include "app/tour/Script.h"
 #include "platform/RuntimeError.h"
 
@@ -24,7 +25,8 @@ using AddSteps = void (*)(corvane::tour::Script&);
 const std::map<std::string, AddSteps> Tours{
     {"first-run", corvane::tour::AddFirstRun},       {"main-job", corvane::tour::AddMainJob},
     {"commands", corvane::tour::AddCommands},        {"alarm-catalogue", corvane::tour::AddAlarmCatalogue},
-    {"alarm-import", corvane::tour::AddAlarmImport}, {"help", corvane::tour::AddHelpPictures}};
+    {"alarm-import", corvane::tour::AddAlarmImport},
+                                            {"notifications", corvane::tour::AddNotifications}, {"help", corvane::tour::AddHelpPictures}};
 
 }  // namespace
 
@@ -34,7 +36,7 @@ int main(int count, char** arguments) {
   if (count != 4 || Tours.count(arguments[1]) == 0) {
     std::fprintf(
         stderr,
-        "usage: corvane-tour first-run|main-job|commands|alarm-catalogue|alarm-import|help INSTALLATION PICTURES\n");
+        "usage: corvane-tour first-run|main-job|commands|alarm-catalogue|alarm-import|notifications|help INSTALLATION PICTURES\n");
     return 2;
   }
   const std::filesystem::path folder = arguments[2];

@@ -9,6 +9,7 @@
 #include "domains/CustomDomains.h"
 #include "domains/frmComputerEnum.h"
 #include "domains/frmDomainChooser.h"
+#include "notifications/SyslogDataFiles.h"
 #include "platform/Conversions.h"
 #include "platform/Launcher.h"
 #include "platform/RuntimeError.h"
@@ -42,7 +43,8 @@ void Console::Main() {
     frmBegin(main_).ShowModal();
   }
   main_.Ui.Sleep(PauseBeforeWindow);
-  mainWindow_ = std::make_unique<frmCVMain>(main_);
+  pager_ = std::make_unique<cvbTAPI>(main_, main_.Platform.Phones);
+  mainWindow_ = std::make_unique<frmCVMain>(main_, *pager_);
   mainWindow_->Load();
   main_.CVMain = mainWindow_.get();
   MakeNetworkObjects();
@@ -64,6 +66,8 @@ void Console::Main() {
   mainWindow_->ShowService(Service::Monitoring, CorvaneServiceState(main_.Platform.Services) == 1);
   mainWindow_->ShowService(Service::SyslogBridge, SyslogBridgeState(main_.Platform.Services) == 1);
   splash_->Unload();
+  // The bridge has what the table holds, whoever changed it meanwhile. A failure is told by the next command only.
+  UpdateSyslogBridge(main_, main_.Platform.Pipes, mainWindow_->lvwSyslogs);
   mainWindow_->Show();
   splash_.reset();
   CheckRapidConfigSetting();

@@ -5,6 +5,7 @@
 #include "core/console/frmCVMain.h"
 #include "core/console/frmStartup.h"
 #include "core/modMain.h"
+#include "notifications/cvbTAPI.h"
 
 namespace corvane {
 
@@ -32,6 +33,8 @@ class Console {
   void CheckRapidConfigSetting() const;
 
   modMain main_;
+  /// The one telephone of the run.
+  std::unique_ptr<cvbTAPI> pager_;
   std::unique_ptr<frmCVMain> mainWindow_;
   std::unique_ptr<frmStartup> splash_;
 };

@@ -1,5 +1,6 @@
 #include "core/console/frmCVMain.h"
 
+#include "admin/frmCreateTable.h"
 #include "admin/frmServiceAccount.h"
 #include "alarms/frmAlarmExport.h"
 #include "alarms/frmAlarmGroups.h"
@@ -23,6 +24,12 @@
 #include "domains/frmCustomDomainManager.h"
 #include "domains/frmDomainChooser.h"
 #include "logs/frmLogEdit.h"
+#include "notifications/SyslogDataFiles.h"
+#include "notifications/frmCustomNotifications.h"
+#include "notifications/frmNotifications.h"
+#include "notifications/frmNotificationsTest.h"
+#include "notifications/frmPriorityBuilder.h"
+#include "notifications/frmSyslogDevice.h"
 #include "platform/Conversions.h"
 #include "platform/Launcher.h"
 #include "platform/ui/UiHost.h"
@@ -45,13 +52,15 @@ void SortByColumn(ui::ListView& list, int column, bool& ascendingNext) {
 }  // namespace
 
 // Screens name these pictures by number too: 21 is an alarm.
-frmCVMain::frmCVMain(modMain& main)
-    : Form(main.Ui, "frmCVMain"), main_(main), images_{"computer",   "syslogdevice", "warning",      "success",
-                                                       "error",      "os",           "editlog",      "alarmcat",
-                                                       "alarmgroup", "info",         "successaudit", "failureaudit",
-                                                       "add",        "edit",         "delete",       "refresh",
-                                                       "log",        "domain",       "running",      "stopped",
-                                                       "alarm",      "notification"} {
+frmCVMain::frmCVMain(modMain& main, cvbTAPI& pager)
+    : Form(main.Ui, "frmCVMain"), main_(main), pager_(pager), images_{"computer",    "syslogdevice", "warning",
+                                                                      "success",     "error",        "os",
+                                                                      "editlog",     "alarmcat",     "alarmgroup",
+                                                                      "info",        "successaudit", "failureaudit",
+                                                                      "add",         "edit",         "delete",
+                                                                      "refresh",     "log",          "domain",
+                                                                      "running",     "stopped",      "alarm",
+                                                                      "notification"} {
   HelpContext = HelpTopic;
   SetCaptions();
   SetPictures();
@@ -88,6 +97,12 @@ void frmCVMain::SetPictures() {
                                                             {&mnuHiddenEdit, "edit"},
                                                             {&mnuFileDelete, "delete"},
                                                             {&mnuHiddenDelete, "delete"},
+                                                            {&mnuFileSyslogAdd, "syslogadd"},
+                                                            {&mnuHiddenSyslogAdd, "syslogadd"},
+                                                            {&mnuFileSyslogEdit, "syslogedit"},
+                                                            {&mnuHiddenSyslogEdit, "syslogedit"},
+                                                            {&mnuEditDefineNotifications, "notification"},
+                                                            {&mnuEditCustomNotifications, "customnotification"},
                                                             {&mnuFileSyslogDelete, "syslogdelete"},
                                                             {&mnuHiddenSyslogDelete, "syslogdelete"},
                                                             {&mnuFileEventViewer, "eventviewer"},
@@ -124,6 +139,8 @@ void frmCVMain::SetToolbar() {
   add({"edit", "Edit Log", "Edit the Selected Log", "edit"}, [this] { mnuFileEdit_Click(); });
   add({"delete", "Delete Log(s)", "Stop Watching the Selected Log(s)", "delete"}, [this] { mnuFileDelete_Click(); });
   separate();
+  add({"addsyslog", "", "Add a New Syslog Device", "syslogadd"}, [this] { mnuFileSyslogAdd_Click(); });
+  add({"editsyslog", "", "Edit a Syslog Device", "syslogedit"}, [this] { mnuFileSyslogEdit_Click(); });
   add({"deletesyslog", "", "Delete Syslog Device(s)", "syslogdelete"}, [this] { mnuFileSyslogDelete_Click(); });
   separate();
   add({"eventviewer", "", "Open the Event Viewer on the Selected Computer", "eventviewer"},
@@ -131,6 +148,9 @@ void frmCVMain::SetToolbar() {
   separate();
   add({"alarm", "", "Define Alarms", "alarm"}, [this] { mnuEditDefineAlarms_Click(); });
   add({"alarmgroups", "", "Define Alarm Bundles", "alarmgroup"}, [this] { mnuEditDefineAlarmGroups_Click(); });
+  add({"notification", "", "Define Notifications", "notification"}, [this] { mnuEditDefineNotifications_Click(); });
+  add({"customnotifications", "", "Custom Notifications", "customnotification"},
+      [this] { frmCustomNotifications(main_).ShowModal(); });
   add({"exportalarms", "", "Export Alarms", "exportalarms"}, [this] { mnuEditExport_Click(); });
   add({"importalarms", "", "Import Alarms", "importalarms"}, [this] { mnuEditImport_Click(); });
   separate();
@@ -142,7 +162,10 @@ void frmCVMain::SetToolbar() {
        "database",
        true,
        false,
-       {{"Creating Tables on Other ODBC Servers", [this] { mnuDatabaseOther.Click(); }}}},
+       {{"Create Access Table(s)", [this] { mnuDatabaseAccess.Click(); }},
+        {"Create Microsoft SQL Server Table(s)", [this] { mnuDatabaseSQL.Click(); }},
+        {"Create Oracle Table(s)", [this] { mnuDatabaseOracle.Click(); }},
+        {"Creating Tables on Other ODBC Servers", [this] { mnuDatabaseOther.Click(); }}}},
       [this] { AskForDropDown(); });
   add({"viewlogentries", "", "View Corvane Log Entries", "log"}, [this] { mnuToolsViewLogEntries_Click(); });
   separate();
@@ -175,10 +198,15 @@ void frmCVMain::WireMenus() {
   mnuFileAdd.Click = mnuHiddenAdd.Click = [this] { mnuFileAdd_Click(); };
   mnuFileEdit.Click = mnuHiddenEdit.Click = [this] { mnuFileEdit_Click(); };
   mnuFileDelete.Click = mnuHiddenDelete.Click = [this] { mnuFileDelete_Click(); };
+  mnuFileSyslogAdd.Click = mnuHiddenSyslogAdd.Click = [this] { mnuFileSyslogAdd_Click(); };
+  mnuFileSyslogEdit.Click = mnuHiddenSyslogEdit.Click = [this] { mnuFileSyslogEdit_Click(); };
   mnuFileSyslogDelete.Click = mnuHiddenSyslogDelete.Click = [this] { mnuFileSyslogDelete_Click(); };
   mnuFileEventViewer.Click = mnuHiddenEventViewer.Click = [this] { mnuFileEventViewer_Click(); };
   mnuFileExit.Click = [this] { Unload(); };
   mnuViewRefresh.Click = [this] { mnuViewRefresh_Click(); };
+  mnuDatabaseAccess.Click = [this] { CreateTables(1); };
+  mnuDatabaseSQL.Click = [this] { CreateTables(2); };
+  mnuDatabaseOracle.Click = [this] { CreateTables(3); };
   mnuDatabaseOther.Click = [this] { main_.Ui.ShowHelp(OtherDatabasesTopic); };
   mnuToolsViewLogEntries.Click = [this] { mnuToolsViewLogEntries_Click(); };
   mnuHelpVisitTarnwick.Click = [this] { OpenInBrowser(main_, VendorSite); };
@@ -191,6 +219,8 @@ void frmCVMain::WireMenus() {
 void frmCVMain::WireEditMenu() {
   mnuEditDefineAlarms.Click = [this] { mnuEditDefineAlarms_Click(); };
   mnuEditDefineAlarmGroups.Click = [this] { mnuEditDefineAlarmGroups_Click(); };
+  mnuEditDefineNotifications.Click = [this] { mnuEditDefineNotifications_Click(); };
+  mnuEditCustomNotifications.Click = [this] { frmCustomNotifications(main_).ShowModal(); };
   mnuEditExport.Click = [this] { mnuEditExport_Click(); };
   mnuEditImport.Click = [this] { mnuEditImport_Click(); };
 }
@@ -216,6 +246,7 @@ void frmCVMain::WireControls() {
   lvwComputers.DblClick = [this] { mnuFileEdit_Click(); };
   lvwComputers.MouseUp = [this](ui::MouseButton button) { lvwComputers_MouseUp(button); };
   tmrUpgradeCheck.Tick = [this] { tmrUpgradeCheck_Timer(); };
+  lvwSyslogs.DblClick = [this] { mnuFileSyslogEdit_Click(); };
   lvwSyslogs.MouseUp = [this](ui::MouseButton button) { lvwSyslogs_MouseUp(button); };
 }
 
@@ -287,7 +318,10 @@ void frmCVMain::EnableLogCommands(bool on) {
                              &mnuHiddenEdit, &mnuHiddenDelete, &mnuHiddenEventViewer})
     item->Enabled = on;
   for (const char* key : {"add", "edit", "delete", "eventviewer"}) tbrMain.Button(key).Enabled = on;
-  mnuFileSyslogDelete.Enabled = mnuHiddenSyslogDelete.Enabled = tbrMain.Button("deletesyslog").Enabled = !on;
+  for (ui::MenuItem* item : {&mnuFileSyslogAdd, &mnuFileSyslogEdit, &mnuFileSyslogDelete, &mnuHiddenSyslogAdd,
+                             &mnuHiddenSyslogEdit, &mnuHiddenSyslogDelete})
+    item->Enabled = !on;
+  for (const char* key : {"addsyslog", "editsyslog", "deletesyslog"}) tbrMain.Button(key).Enabled = !on;
 }
 
 void frmCVMain::tbrMain_ButtonClick(const std::string& key) {
@@ -370,8 +404,35 @@ void frmCVMain::mnuFileDelete_Click() {
   DeleteWatchedLogs(main_, logs, lstDomain.Text());
 }
 
+void frmCVMain::mnuFileSyslogAdd_Click() {
+  const bool wasEmpty = lvwSyslogs.Count() == 0;
+  frmSyslogDevice device(main_);
+  device.InitForm(false, lvwSyslogs);
+  device.ShowModal();
+  ShowChangedSyslogs();
+  // A list that was empty has always been filled twice.
+  if (wasEmpty) RefillSyslogs(false);
+}
+
+void frmCVMain::mnuFileSyslogEdit_Click() {
+  const int row = lvwSyslogs.SelectedRow();
+  if (row < 0) return;
+  main_.SelectedName = lvwSyslogs.Item(row).Text;
+  main_.SelectedDetail = lvwSyslogs.Item(row).Cell(1);
+  frmSyslogDevice device(main_);
+  device.InitForm(true, lvwSyslogs);
+  device.ShowModal();
+  ShowChangedSyslogs();
+}
+
 void frmCVMain::mnuFileSyslogDelete_Click() {
-  if (DeleteSyslogDevices(main_, lvwSyslogs)) RefillSyslogs(false);
+  if (DeleteSyslogDevices(main_, lvwSyslogs)) ShowChangedSyslogs();
+}
+
+// The bridge reads files that follow the list.
+void frmCVMain::ShowChangedSyslogs() {
+  RefillSyslogs(false);
+  UpdateSyslogBridgeOrTell(main_, main_.Platform.Pipes, lvwSyslogs);
 }
 
 void frmCVMain::mnuFileEventViewer_Click() {
@@ -385,9 +446,29 @@ void frmCVMain::mnuEditDefineAlarms_Click() { frmAlarms(main_).ShowModal(); }
 
 void frmCVMain::mnuEditDefineAlarmGroups_Click() { frmAlarmGroups(main_).ShowModal(); }
 
+void frmCVMain::mnuEditDefineNotifications_Click() {
+  frmNotifications notifications(main_, main_.Platform.Targets);
+  notifications.BuildPriority = [this](ui::TextBox& priority) {
+    frmPriorityBuilder builder(main_);
+    builder.InitForm(priority);
+    builder.ShowModal();
+  };
+  notifications.Test = [this](const std::string& name) {
+    frmNotificationsTest test(main_, pager_);
+    if (test.RunTest(name)) test.ShowModal();
+  };
+  notifications.ShowModal();
+}
+
 void frmCVMain::mnuEditExport_Click() { frmAlarmExport(main_).ShowModal(); }
 
 void frmCVMain::mnuEditImport_Click() { frmAlarmImport(main_).ShowModal(); }
+
+void frmCVMain::CreateTables(int kind) {
+  frmCreateTable tables(main_, main_.Platform.Targets);
+  tables.InitForm(static_cast<frmCreateTable::Kind>(kind));
+  tables.ShowModal();
+}
 
 void frmCVMain::mnuViewRefresh_Click() {
   if (tabMain.Tab == SyslogTab)

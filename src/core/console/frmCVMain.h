@@ -16,19 +16,23 @@
 
 namespace corvane {
 
+class cvbTAPI;
 class modMain;
 
 /// The console's one long-lived window: the watched logs of a domain on one tab, the accepted syslog devices on the
 /// other. What it shows is read when a list is filled; nothing here watches live.
 class frmCVMain : public ui::Form, public MainWindow {
  public:
-  explicit frmCVMain(modMain& main);
+  /// `pager` makes the calls of a notification's test.
+  frmCVMain(modMain& main, cvbTAPI& pager);
 
   ui::MenuItem mnuFile{*this, "mnuFile", "&File"};
   ui::MenuItem mnuFileAdd{mnuFile, "mnuFileAdd", "&Watch a New Log..."};
   ui::MenuItem mnuFileEdit{mnuFile, "mnuFileEdit", "&Edit the Selected Log..."};
   ui::MenuItem mnuFileDelete{mnuFile, "mnuFileDelete", "&Delete the Selected Log(s)"};
   ui::MenuItem mnuFileBar1{mnuFile, "mnuFileBar1", "-"};
+  ui::MenuItem mnuFileSyslogAdd{mnuFile, "mnuFileSyslogAdd", "&Add a New Syslog Device"};
+  ui::MenuItem mnuFileSyslogEdit{mnuFile, "mnuFileSyslogEdit", "Edit a S&yslog Device"};
   ui::MenuItem mnuFileSyslogDelete{mnuFile, "mnuFileSyslogDelete", "Delete Sys&log Device(s)"};
   ui::MenuItem mnuFileBar2{mnuFile, "mnuFileBar2", "-"};
   ui::MenuItem mnuFileEventViewer{mnuFile, "mnuFileEventViewer", "Event &Viewer..."};
@@ -37,6 +41,8 @@ class frmCVMain : public ui::Form, public MainWindow {
   ui::MenuItem mnuEdit{*this, "mnuEdit", "&Edit"};
   ui::MenuItem mnuEditDefineAlarms{mnuEdit, "mnuEditDefineAlarms", "Define &Alarms..."};
   ui::MenuItem mnuEditDefineAlarmGroups{mnuEdit, "mnuEditDefineAlarmGroups", "Define Alarm &Bundles..."};
+  ui::MenuItem mnuEditDefineNotifications{mnuEdit, "mnuEditDefineNotifications", "Define &Notifications..."};
+  ui::MenuItem mnuEditCustomNotifications{mnuEdit, "mnuEditCustomNotifications", "&Custom Notifications..."};
   ui::MenuItem mnuEditBar1{mnuEdit, "mnuEditBar1", "-"};
   ui::MenuItem mnuEditExport{mnuEdit, "mnuEditExport", "Ex&port Alarms..."};
   ui::MenuItem mnuEditImport{mnuEdit, "mnuEditImport", "&Import Alarms..."};
@@ -44,6 +50,9 @@ class frmCVMain : public ui::Form, public MainWindow {
   ui::MenuItem mnuViewRefresh{mnuView, "mnuViewRefresh", "&Refresh"};
   ui::MenuItem mnuTools{*this, "mnuTools", "&Tools"};
   ui::MenuItem mnuToolsDatabase{mnuTools, "mnuToolsDatabase", "&Database Helpers"};
+  ui::MenuItem mnuDatabaseAccess{mnuToolsDatabase, "mnuDatabaseAccess", "Create &Access Table(s)"};
+  ui::MenuItem mnuDatabaseSQL{mnuToolsDatabase, "mnuDatabaseSQL", "Create Microsoft &SQL Server Table(s)"};
+  ui::MenuItem mnuDatabaseOracle{mnuToolsDatabase, "mnuDatabaseOracle", "Create O&racle Table(s)"};
   ui::MenuItem mnuDatabaseOther{mnuToolsDatabase, "mnuDatabaseOther", "Creating Tables on &Other ODBC Servers"};
   ui::MenuItem mnuToolsViewLogEntries{mnuTools, "mnuToolsViewLogEntries", "&View Corvane Log Entries"};
   ui::MenuItem mnuOptions{*this, "mnuOptions", "&Options"};
@@ -70,6 +79,8 @@ class frmCVMain : public ui::Form, public MainWindow {
   ui::MenuItem mnuHiddenEdit{mnuHidden, "mnuHiddenEdit", "&Edit the Selected Log..."};
   ui::MenuItem mnuHiddenDelete{mnuHidden, "mnuHiddenDelete", "&Delete the Selected Log(s)"};
   ui::MenuItem mnuHiddenBar1{mnuHidden, "mnuHiddenBar1", "-"};
+  ui::MenuItem mnuHiddenSyslogAdd{mnuHidden, "mnuHiddenSyslogAdd", "&Add a New Syslog Device"};
+  ui::MenuItem mnuHiddenSyslogEdit{mnuHidden, "mnuHiddenSyslogEdit", "Edit a S&yslog Device"};
   ui::MenuItem mnuHiddenSyslogDelete{mnuHidden, "mnuHiddenSyslogDelete", "Delete Sys&log Device(s)"};
   ui::MenuItem mnuHiddenBar2{mnuHidden, "mnuHiddenBar2", "-"};
   ui::MenuItem mnuHiddenEventViewer{mnuHidden, "mnuHiddenEventViewer", "Event &Viewer..."};
@@ -134,10 +145,13 @@ class frmCVMain : public ui::Form, public MainWindow {
   void mnuFileAdd_Click();
   void mnuFileEdit_Click();
   void mnuFileDelete_Click();
+  void mnuFileSyslogAdd_Click();
+  void mnuFileSyslogEdit_Click();
   void mnuFileSyslogDelete_Click();
   void mnuFileEventViewer_Click();
   void mnuEditDefineAlarms_Click();
   void mnuEditDefineAlarmGroups_Click();
+  void mnuEditDefineNotifications_Click();
   void mnuEditExport_Click();
   void mnuEditImport_Click();
   void mnuViewRefresh_Click();
@@ -148,13 +162,16 @@ class frmCVMain : public ui::Form, public MainWindow {
   void mnuOptionsCustomDomains_Click();
   void mnuOptionsComputerNames_Click();
   void mnuHelpAbout_Click();
+  void CreateTables(int kind);
   void AskForDropDown();
   void ControlService(bool start);
   void tmrUpgradeCheck_Timer();
 
   void EnableLogCommands(bool on);
+  void ShowChangedSyslogs();
 
   modMain& main_;
+  cvbTAPI& pager_;
   ui::ImageList images_;
   /// What the buttons of the toolbar do, by key.
   std::map<std::string, ui::Handler> toolCommands_;
