@@ -102,7 +102,7 @@ TEST(Kill, AtAnyMomentLeavesEveryFileWhole) {
     console.Start();
     EXPECT_TRUE(console.App.Started());
   }
-  EXPECT_GT(busy, Kills / 2) << "the consoles were killed before they worked";
+  EXPECT_GT(busy, Kills / 5) << "the consoles were killed before they worked";
 }
 
 }  // namespace
