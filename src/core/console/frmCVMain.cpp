@@ -154,7 +154,7 @@ void frmCVMain::SetToolbar() {
   add({"exportalarms", "", "Export Alarms", "exportalarms"}, [this] { mnuEditExport_Click(); });
   add({"importalarms", "", "Import Alarms", "importalarms"}, [this] { mnuEditImport_Click(); });
   separate();
-  add({"refresh", "Refresh", "Refresh the List", "refresh"}, [this] { mnuViewRefresh_Click(); });
+  add({"refresh", "", "Refresh the List", "refresh"}, [this] { mnuViewRefresh_Click(); });
   separate();
   add({"databasetools",
        "",

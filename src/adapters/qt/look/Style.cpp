@@ -43,6 +43,12 @@ QRect ScrollBarPart(const QStyleOptionSlider& bar, QStyle::SubControl part) {
   }
 }
 
+// Such buttons stand close together: all commands have to fit into one row.
+bool IsPictureAlone(const QStyleOption* option) {
+  const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option);
+  return button != nullptr && button->toolButtonStyle == Qt::ToolButtonIconOnly;
+}
+
 }  // namespace
 
 Style::Style() : QProxyStyle("Fusion") {}
@@ -119,7 +125,7 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
     case CT_MenuBarItem:
       return {result.width() + 4, result.height() + 6};
     case CT_ToolButton:
-      return {result.width() + 10, result.height() + 4};
+      return {result.width() + (IsPictureAlone(option) ? 4 : 10), result.height() + 4};
     default:
       return result;
   }
