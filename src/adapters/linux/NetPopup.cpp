@@ -100,8 +100,9 @@ std::optional<std::string> NetPopup::Request(std::uint8_t command, std::string_v
 bool NetPopup::Send(const Endpoint& computer, std::string_view text) {
   if (!OpenSession(computer)) return false;
   const auto group = Request(StartMessage, {}, NameField(from_) + NameField(to_));
-  if (!group || group->size() < 2) return false;
-  const std::string number = group->substr(0, 2);
+  if (!group) return false;
+  // Samba numbers no messages and leaves the number out.
+  const std::string number = group->size() < 2 ? LittleEndian(0) : group->substr(0, 2);
   for (text = text.substr(0, LongestText); !text.empty(); text.remove_prefix(std::min(text.size(), BlockBytes)))
     if (!Request(TextOfMessage, number, TextField(text.substr(0, BlockBytes)))) return false;
   return Request(EndMessage, number, {}).has_value();
