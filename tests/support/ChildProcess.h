@@ -1,9 +1,11 @@
 #pragma once
 
 #include <sys/types.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <functional>
+#include <memory>
 
 namespace corvane::test {
 
@@ -32,6 +34,12 @@ class ChildProcess {
   int toTest_[2] = {}, toChild_[2] = {};
   pid_t child_ = 0;
 };
+
+/// Another program as a child process, whose limit of time goes over to it.
+template <class... Words>
+std::unique_ptr<ChildProcess> StartProgram(const char* program, Words... words) {
+  return std::make_unique<ChildProcess>([=](ChildProcess&) { ::execlp(program, program, words..., nullptr); });
+}
 
 /// Does the work in a process of its own and gives its result, or the number of the error that it raised.
 int InChild(const std::function<int()>& work);

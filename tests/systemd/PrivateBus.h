@@ -1,7 +1,6 @@
 #pragma once
 
 #include <stdlib.h>
-#include <unistd.h>
 
 #include <chrono>
 #include <memory>
@@ -25,7 +24,7 @@ class PrivateBus {
     // Not the configuration of a session, by which a real systemd might be started.
     const auto config = folder_.Write("conf", "<busconfig><listen>" + Address() + R"(</listen><policy context="default">
         <allow own="*"/><allow eavesdrop="true"/><allow send_destination="*" eavesdrop="true"/></policy></busconfig>)");
-    bus_ = Run("dbus-daemon", "--nofork", "--config-file", config.c_str());
+    bus_ = StartProgram("dbus-daemon", "--nofork", "--config-file", config.c_str());
     for (int i = 0; i < 400 && !Answers(); ++i) std::this_thread::sleep_for(std::chrono::milliseconds(50));
     if (!Answers()) throw std::runtime_error("the mock of systemd does not answer");
   }
@@ -37,18 +36,12 @@ class PrivateBus {
   void Kill() { bus_->Kill(); }
 
  private:
-  // A child's limit of time goes over to the program that it becomes.
-  template <class... Words>
-  static std::unique_ptr<ChildProcess> Run(const char* program, Words... words) {
-    return std::make_unique<ChildProcess>([=](ChildProcess&) { ::execlp(program, program, words..., nullptr); });
-  }
-
   bool Answers() {
     const auto bus = SystemdBus::Connect(Address(), std::chrono::seconds(1));
     // The mock, a package of the system's own Python, gives up at once where no bus listens.
     if (bus && !mock_)
-      mock_ = Run("/usr/bin/python3", "-m", "dbusmock", "--session", "-l", "/dev/null", "-t",
-                  CORVANE_SOURCE_DIR "/tests/systemd/systemd_mock.py");
+      mock_ = StartProgram("/usr/bin/python3", "-m", "dbusmock", "--session", "-l", "/dev/null", "-t",
+                           CORVANE_SOURCE_DIR "/tests/systemd/systemd_mock.py");
     return bus && bus->LoadUnit("inactive.service");
   }
 
