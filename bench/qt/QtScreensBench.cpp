@@ -1,5 +1,6 @@
 #include <benchmark/benchmark.h>
 
+#include "admin/frmCreateTable.h"
 #include "admin/frmServiceAccount.h"
 #include "alarms/frmAlarmExport.h"
 #include "alarms/frmAlarmGroups.h"
@@ -13,6 +14,7 @@
 #include "domains/frmDomainChooser.h"
 #include "logs/frmLogEdit.h"
 #include "notifications/frmCustomNotifications.h"
+#include "notifications/frmNotifications.h"
 #include "notifications/frmPriorityBuilder.h"
 #include "notifications/frmSyslogDevice.h"
 #include "qt/FaceHost.h"
@@ -20,11 +22,18 @@
 #include "support/BenchInstallation.h"
 #include "support/Duel.h"
 #include "support/RatioReporter.h"
+#include "support/TestTargets.h"
 
 namespace corvane::bench {
 namespace {
 
 constexpr double ScreenLimit = 0.030;
+
+// The form with a system behind ODBC that is not asked.
+template <class Form>
+struct WithTargets : test::TestTargets, Form {
+  explicit WithTargets(modMain& main) : Form(main, static_cast<test::TestTargets&>(*this)) {}
+};
 
 // From the form's construction to the picture of its window.
 template <class Form>
@@ -68,6 +77,14 @@ BENCHMARK(OpenScreen<frmCustomNotifications>)
     ->UseManualTime();
 BENCHMARK(OpenScreen<frmSyslogDevice>)->Name("syslog device opened and painted")->Iterations(50)->UseManualTime();
 BENCHMARK(OpenScreen<frmPriorityBuilder>)->Name("priority builder opened and painted")->Iterations(50)->UseManualTime();
+BENCHMARK(OpenScreen<WithTargets<frmNotifications>>)
+    ->Name("notifications opened and painted")
+    ->Iterations(50)
+    ->UseManualTime();
+BENCHMARK(OpenScreen<WithTargets<frmCreateTable>>)
+    ->Name("table of events opened and painted")
+    ->Iterations(50)
+    ->UseManualTime();
 BENCHMARK(OpenScreen<frmLogView>)->Name("log viewer opened and painted")->Iterations(50)->UseManualTime();
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include "admin/frmCreateTable.h"
 #include "admin/frmServiceAccount.h"
 #include "alarms/frmAlarmExport.h"
 #include "alarms/frmAlarmGroups.h"
@@ -13,9 +14,11 @@
 #include "domains/frmDomainChooser.h"
 #include "logs/frmLogEdit.h"
 #include "notifications/frmCustomNotifications.h"
+#include "notifications/frmNotifications.h"
 #include "notifications/frmPriorityBuilder.h"
 #include "notifications/frmSyslogDevice.h"
 #include "support/ConsoleTest.h"
+#include "support/TestTargets.h"
 
 namespace corvane::test {
 namespace {
@@ -62,6 +65,9 @@ TEST_F(ConsoleTest, CaptionsAreTheSettledOnes) {
   frmControlService stop(Main, {}), start(Main, {});
   start.IsStart = true;
   for (frmControlService* form : {&stop, &start}) form->InitForm();
+  TestTargets targets;
+  frmNotifications notifications(Main, targets);
+  frmCreateTable tables(Main, targets);
   AlarmPlace place;
   frmAlarmInformation information(Main, place);
   information.InitForm(frmAlarms(Main).tvAlarms);
@@ -73,7 +79,8 @@ TEST_F(ConsoleTest, CaptionsAreTheSettledOnes) {
                 TextsOn<frmComputerEnum>(Main) + TextsOn<frmCustomDomainManager>(Main) +
                 TextsOn<frmServiceAccount>(Main) + TextsOn<frmAlarmGroups>(Main) + TextsOn<frmAlarmExport>(Main) +
                 TextsOn<frmAlarmImport>(Main) + TextsOn<frmAlarms>(Main) + TextsOf(information) +
-                TextsOn<frmCustomNotifications>(Main) + TextsOf(device) + TextsOn<frmPriorityBuilder>(Main));
+                TextsOn<frmCustomNotifications>(Main) + TextsOf(device) + TextsOn<frmPriorityBuilder>(Main) +
+                TextsOf(notifications) + TextsOf(tables));
 }
 
 }  // namespace

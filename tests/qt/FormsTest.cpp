@@ -8,6 +8,7 @@
 
 #include "Hands.h"
 #include "StartedConsole.h"
+#include "admin/frmCreateTable.h"
 #include "admin/frmServiceAccount.h"
 #include "alarms/frmAlarmExport.h"
 #include "alarms/frmAlarmGroups.h"
@@ -25,13 +26,17 @@
 #include "domains/frmDomainChooser.h"
 #include "logs/frmLogEdit.h"
 #include "notifications/frmCustomNotifications.h"
+#include "notifications/frmNotifications.h"
 #include "notifications/frmPriorityBuilder.h"
 #include "notifications/frmSyslogDevice.h"
+#include "support/TestTargets.h"
 
 namespace corvane::test {
 
 class FormsTest : public StartedConsole {
  protected:
+  TestTargets Targets;
+
   /// Every form of the console, shown one after the other; each page of its tabs in front in turn.
   void ForEachForm(const std::function<void(ui::Form&)>& visit) {
     frmBegin begin(State());
@@ -52,12 +57,19 @@ class FormsTest : public StartedConsole {
     frmCustomNotifications templates(State()), templateFields(State());
     frmSyslogDevice device(State());
     frmPriorityBuilder priority(State());
+    frmNotifications notifications(State(), Targets), ways(State(), Targets);
+    for (frmNotifications* form : {&notifications, &ways}) {
+      form->Test = [](const std::string&) {};
+      form->BuildPriority = [](ui::TextBox&) {};
+    }
+    frmCreateTable tables(State(), Targets);
     SaveCustomMappings(State(), {{"192.0.2.77", "BRANCH"}, {"KIOSK1", "LOBBY"}, {"SCANNER2", "BRANCH"}});
     State().IsNewLog = true;
     for (ui::Form* form : std::initializer_list<ui::Form*>{
-             &Main(),   &begin,        &splash,      &about,     &editor,         &events,  &domain,       &computers,
-             &mappings, &account,      &services,    &alarms,    &alarmFields,    &bundles, &bundleFields, &exporter,
-             &importer, &importFields, &information, &templates, &templateFields, &device,  &priority}) {
+             &Main(),       &begin,    &splash,        &about,        &editor,      &events,      &domain,
+             &computers,    &mappings, &account,       &services,     &alarms,      &alarmFields, &bundles,
+             &bundleFields, &exporter, &importer,      &importFields, &information, &templates,   &templateFields,
+             &device,       &priority, &notifications, &ways,         &tables}) {
       form->Load();
       if (form == &about) about.SetAbout(true);
       if (form == &services) services.InitForm();
@@ -68,6 +80,8 @@ class FormsTest : public StartedConsole {
         importFields.cmdView.Click();
       }
       if (form == &information) information.InitForm(alarms.tvAlarms);
+      if (form == &ways) ways.cmdEdit.Click();
+      if (form == &tables) tables.InitForm(frmCreateTable::Kind::Oracle);
       if (form == &templateFields) templateFields.cmdAdd.Click();
       if (form == &device) device.InitForm(false, Main().lvwSyslogs);
       if (form == &priority) priority.InitForm(device.txtIP[0]);
