@@ -47,7 +47,7 @@ TEST_F(SyslogDevicesTest, GoToTheBridgeInTwoFiles) {
   EXPECT_EQ(
       "\3\0\0\0\x0A\0\0\1\x08\2\1\2\xFF\xFF\xFF\xFF|"
       "\3\0\0\0\6\0\0\0Core 1\x09\0\0\0Z\xFCrich \x80?\3\0\0\0Odd"s,
-      files());
+      ReadTextFile(Console.Folder() / "syslog.dat") + "|" + ReadTextFile(Console.Folder() / "syslogex.dat"));
   EXPECT_EQ("\\\\.\\pipe\\corvanesyslog \1\0\0\0 4 1000"s, std::exchange(Calls, ""));
   for (const std::string path : {"C:\\Corvane\\none\\syslogex.dat", "C:\\Corvane\\help", ""}) {
     Main.SaveSetting("DataFileEx", path);
