@@ -13,8 +13,10 @@
 #include "domains/frmCustomDomainManager.h"
 #include "domains/frmDomainChooser.h"
 #include "logs/frmLogEdit.h"
+#include "notifications/cvbTAPI.h"
 #include "notifications/frmCustomNotifications.h"
 #include "notifications/frmNotifications.h"
+#include "notifications/frmNotificationsTest.h"
 #include "notifications/frmPriorityBuilder.h"
 #include "notifications/frmSyslogDevice.h"
 #include "support/ConsoleTest.h"
@@ -68,6 +70,9 @@ TEST_F(ConsoleTest, CaptionsAreTheSettledOnes) {
   TestTargets targets;
   frmNotifications notifications(Main, targets);
   frmCreateTable tables(Main, targets);
+  cvbTAPI pager(Main, Main.Platform.Phones);
+  frmNotificationsTest test(Main, pager);
+  test.RunTest("Duty Desk Popup");
   AlarmPlace place;
   frmAlarmInformation information(Main, place);
   information.InitForm(frmAlarms(Main).tvAlarms);
@@ -80,7 +85,7 @@ TEST_F(ConsoleTest, CaptionsAreTheSettledOnes) {
                 TextsOn<frmServiceAccount>(Main) + TextsOn<frmAlarmGroups>(Main) + TextsOn<frmAlarmExport>(Main) +
                 TextsOn<frmAlarmImport>(Main) + TextsOn<frmAlarms>(Main) + TextsOf(information) +
                 TextsOn<frmCustomNotifications>(Main) + TextsOf(device) + TextsOn<frmPriorityBuilder>(Main) +
-                TextsOf(notifications) + TextsOf(tables));
+                TextsOf(notifications) + TextsOf(tables) + TextsOf(test));
 }
 
 }  // namespace

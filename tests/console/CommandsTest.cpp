@@ -44,10 +44,13 @@ TEST_F(CommandsTest, EveryWayLeadsToItsScreen) {
   const auto opens = [&](const std::string& form, const std::function<void()>& act) {
     Host.OnModal(form, [](ui::Form& shown) { shown.CloseBox(); });
     act();
-    Host.SelectOnly(Window().lvwComputers, 0);
+    if (Window().tabMain.Tab == 0) Host.SelectOnly(Window().lvwComputers, 0);
   };
   for (const Command& command : Switchboard) {
     if (command.Form.empty()) continue;
+    // The commands of a tab are off while the other one is in front.
+    Host.BringToFront(Window().tabMain, command.IsForSyslogs() ? 1 : 0);
+    if (!command.IsForSyslogs()) Host.SelectOnly(Window().lvwComputers, 0);
     if (!command.Key.empty()) opens(command.Form, [&] { Host.Press(Window().tbrMain, command.Key); });
     for (ui::Control* control : Window().Controls())
       if (std::count(command.Items.begin(), command.Items.end(), control->Name()) > 0)

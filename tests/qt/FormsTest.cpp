@@ -25,8 +25,10 @@
 #include "domains/frmCustomDomainManager.h"
 #include "domains/frmDomainChooser.h"
 #include "logs/frmLogEdit.h"
+#include "notifications/cvbTAPI.h"
 #include "notifications/frmCustomNotifications.h"
 #include "notifications/frmNotifications.h"
+#include "notifications/frmNotificationsTest.h"
 #include "notifications/frmPriorityBuilder.h"
 #include "notifications/frmSyslogDevice.h"
 #include "support/TestTargets.h"
@@ -63,13 +65,15 @@ class FormsTest : public StartedConsole {
       form->BuildPriority = [](ui::TextBox&) {};
     }
     frmCreateTable tables(State(), Targets);
+    cvbTAPI pager(State(), State().Platform.Phones);
+    frmNotificationsTest sending(State(), pager);
     SaveCustomMappings(State(), {{"192.0.2.77", "BRANCH"}, {"KIOSK1", "LOBBY"}, {"SCANNER2", "BRANCH"}});
     State().IsNewLog = true;
     for (ui::Form* form : std::initializer_list<ui::Form*>{
              &Main(),       &begin,    &splash,        &about,        &editor,      &events,      &domain,
              &computers,    &mappings, &account,       &services,     &alarms,      &alarmFields, &bundles,
              &bundleFields, &exporter, &importer,      &importFields, &information, &templates,   &templateFields,
-             &device,       &priority, &notifications, &ways,         &tables}) {
+             &device,       &priority, &notifications, &ways,         &tables,      &sending}) {
       form->Load();
       if (form == &about) about.SetAbout(true);
       if (form == &services) services.InitForm();
@@ -83,6 +87,7 @@ class FormsTest : public StartedConsole {
       if (form == &ways) ways.cmdEdit.Click();
       if (form == &tables) tables.InitForm(frmCreateTable::Kind::Oracle);
       if (form == &templateFields) templateFields.cmdAdd.Click();
+      if (form == &sending) sending.RunTest("Duty Desk Popup");
       if (form == &device) device.InitForm(false, Main().lvwSyslogs);
       if (form == &priority) priority.InitForm(device.txtIP[0]);
       if (form != &Main()) form->Show();

@@ -13,6 +13,8 @@ struct Command {
   std::string Key;
   std::string Form;
   std::vector<std::string> Items;
+
+  bool IsForSyslogs() const { return Form == "frmSyslogDevice"; }
 };
 
 /// Every command there is. A screen that comes in adds its line.
