@@ -2,6 +2,7 @@
 
 #include <QMenu>
 #include <QMenuBar>
+#include <QTabWidget>
 #include <QTimer>
 #include <QToolBar>
 
@@ -16,6 +17,7 @@ class SwitchboardTest : public StartedConsole {
     State().SaveSetting("Created", "1");
     State().ConfigConnection->Execute(
         "INSERT INTO RegisteredServers VALUES ('MERDC011', 'MERIDIAN', 'MERDC01', 1, 0, False, 0, 0)");
+    State().ConfigConnection->Execute("INSERT INTO SyslogDevices VALUES ('Switch', '192.0.2.7')");
     Main().RefillLogs(false);
     Serve();
   }
@@ -24,7 +26,7 @@ class SwitchboardTest : public StartedConsole {
   static void Serve() { QTest::qWait(20); }
 
   void ClickRow(Qt::MouseButton button) {
-    const auto& list = *Window().findChild<QTreeView*>("lvwComputers");
+    const auto& list = *Window().findChild<QTreeView*>(Main().tabMain.Tab == 0 ? "lvwComputers" : "lvwSyslogs");
     ClickAt(list, MiddleOf(list, list.model()->index(0, 0)), Qt::NoModifier, button);
     Serve();
   }
@@ -64,21 +66,28 @@ class SwitchboardTest : public StartedConsole {
     throw std::runtime_error("no action " + name);
   }
 
-  // A menu on the bar opens on its own; a pop-up menu runs until something of it is chosen.
+  // A menu on the bar opens on its own, and one within it when it is reached; a pop-up menu runs until something of it
+  // is chosen.
   void ClickItem(const std::string& name) {
     const auto choose = [&] {
       auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
       ASSERT_NE(nullptr, menu) << name;
       QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier, menu->actionGeometry(ActionOf(name)).center());
     };
-    if (Item(name).Menu->Popup) {
+    const ui::MenuItem* menu = Item(name).Menu;
+    if (menu->Popup) {
       QTimer::singleShot(50, qApp, choose);
       return ClickRow(Qt::RightButton);
     }
     auto& bar = *Window().findChild<QMenuBar*>();
     for (QAction* action : bar.actions())
-      if (action->objectName().toStdString() == Item(name).Menu->Name())
+      if (action->objectName().toStdString() == (menu->Menu != nullptr ? menu->Menu : menu)->Name())
         QTest::mouseClick(&bar, Qt::LeftButton, Qt::NoModifier, bar.actionGeometry(action).center());
+    Serve();
+    if (menu->Menu != nullptr)
+      for (QAction* action : Window().findChildren<QAction*>())
+        if (action->objectName().toStdString() == menu->Name() && action->menu() != nullptr)
+          qobject_cast<QMenu*>(QApplication::activePopupWidget())->setActiveAction(action);
     Serve();
     choose();
   }
@@ -87,6 +96,8 @@ class SwitchboardTest : public StartedConsole {
 TEST_F(SwitchboardTest, EveryClickOpensItsScreen) {
   for (const Command& command : Switchboard) {
     if (command.Form.empty()) continue;
+    Window().findChild<QTabWidget*>("tabMain")->setCurrentIndex(command.IsForSyslogs() ? 1 : 0);
+    Serve();
     const auto opens = [&](const std::string& way, const std::function<void()>& act) {
       ClickRow(Qt::LeftButton);
       EXPECT_EQ(command.Form, Opened(act)) << way;
