@@ -33,7 +33,7 @@ cvbTAPI::~cvbTAPI() {
 }
 
 int cvbTAPI::Connect(const std::string& dialString) {
-  if (line_ == 0) return status_;
+  if (line_ == 0) return line::Failed;
   inCall_ = true;
   Try([&] { status_ = lines_.MakeCall(line_, call_, dialString); });
   return status_;

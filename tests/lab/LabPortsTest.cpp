@@ -2,9 +2,11 @@
 #include "adapters/lab/LabDirectoryProvider.h"
 #include "adapters/lab/LabNetX.h"
 #include "adapters/lab/LabServiceManager.h"
+#include "adapters/lab/LabTelephony.h"
 #include "adapters/lab/LabUnitQuery.h"
 #include "lab/LabFixture.h"
 #include "support/Cases.h"
+#include "support/ScriptedHost.h"
 
 namespace corvane::test {
 
@@ -95,6 +97,25 @@ TEST_F(LabPortsTest, AServiceIsPendingForItsTimeAndStaysInTheFile) {
   Clock += 1000000;
   expect(service::Stopped, "State = stop pending\nUntil = 1000140\n");
   EXPECT_EQ(Network.Model()->FindService("Bridge")->StateAt(Clock), service::StopPending) << "no end is known of it";
+}
+
+TEST_F(LabPortsTest, CallsAreTakenAsTheFileSaysAndEndAtOnce) {
+  for (const auto& [answer, expected] : std::map<std::string, std::uint32_t>{
+           {"connect", 0x102}, {"busy", 0x42}, {"no carrier", 0x4002}, {"no dial tone", 0x4002}, {"nothing", 0}}) {
+    const std::string after = expected == 0 ? "600000" : "9";
+    Folder.Write("lab.ini", Text + "[Modem 1]\nAfter = " + after + "\nAnswer = " + answer + "\n");
+    ScriptedHost host;
+    LabTelephony lines(Network, [&](auto action) { host.Post(action); });
+    std::uint32_t application = 0, devices = 0, line = 0, call = 0, told = 0;
+    const auto tell = [&told](auto message, auto state) { told = message + state; };
+    lines.InitializeEx(application, tell, "", devices);
+    EXPECT_LT(lines.Open(application, devices - 2, line, 0, line::PrivilegeOwner, line::MediaModeDataModem), 0);
+    EXPECT_EQ(lines.Open(application, devices - 1, line, 0, line::PrivilegeOwner, line::MediaModeDataModem), line::Ok);
+    EXPECT_TRUE(lines.MakeCall(line, call, "1") == line::Ok && lines.MakeCall(line, devices, "1") < 0) << "in use";
+    for (int wait = 0; wait < (expected ? 2000 : 30) && told == 0; ++wait, host.RunPosted()) ::usleep(1000);
+    EXPECT_EQ(told, expected) << answer;
+    EXPECT_TRUE(lines.Shutdown(application) == line::Ok && lines.MakeCall(line, call, "1") < 0) << "closed too";
+  }
 }
 
 }  // namespace corvane::test

@@ -119,7 +119,7 @@ void ModemCall::HangUp(bool isConnected) {
   port_.Write(isConnected ? "+++" : "\r");
   std::this_thread::sleep_for(Silence);
   port_.Write("ATH\r");
-  Await(Clock::now() + LastReply, NoStop, {Reply::Ok, Reply::Failed});
+  Await(Clock::now() + LastReply, NoStop, {Reply::Ok});
 }
 
 }  // namespace corvane
