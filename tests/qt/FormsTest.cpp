@@ -38,7 +38,6 @@ namespace corvane::test {
 class FormsTest : public StartedConsole {
  protected:
   TestTargets Targets;
-
   /// Every form of the console, shown one after the other; each page of its tabs in front in turn.
   void ForEachForm(const std::function<void(ui::Form&)>& visit) {
     frmBegin begin(State());
@@ -60,10 +59,6 @@ class FormsTest : public StartedConsole {
     frmSyslogDevice device(State());
     frmPriorityBuilder priority(State());
     frmNotifications notifications(State(), Targets), ways(State(), Targets);
-    for (frmNotifications* form : {&notifications, &ways}) {
-      form->Test = [](const std::string&) {};
-      form->BuildPriority = [](ui::TextBox&) {};
-    }
     frmCreateTable tables(State(), Targets);
     cvbTAPI pager(State(), State().Platform.Phones);
     frmNotificationsTest sending(State(), pager);
