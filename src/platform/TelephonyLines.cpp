@@ -47,7 +47,7 @@ int TelephonyLines::GetDevCaps(std::uint32_t application, std::uint32_t device, 
 int TelephonyLines::MakeCall(std::uint32_t line, std::uint32_t& call, const std::string& dialString) {
   const auto owner = lines_.find(line);
   if (owner == lines_.end() || IsBusy(owner->second.Device)) return line::Failed;
-  const auto made = std::make_shared<Call>(line, applications_.at(owner->second.Application), nullptr);
+  const auto made = std::make_shared<Call>(Call{line, applications_.at(owner->second.Application), nullptr});
   // Looked at on the one thread only, where a call also ends: so it is told of nothing after its end.
   const auto tell = [post = post_, call = std::weak_ptr<Call>(made)](std::uint32_t state) {
     post([call, state] {

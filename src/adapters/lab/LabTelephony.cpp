@@ -1,5 +1,6 @@
 #include "adapters/lab/LabTelephony.h"
 
+#include <algorithm>
 #include <chrono>
 #include <condition_variable>
 #include <mutex>
