@@ -126,7 +126,8 @@ class BrokenWindow : public frmCVMain {
 
 // Texts go in as they stand: an apostrophe fails the statement, and without a computer the digit alone is the key.
 TEST_F(LogEditTest, ErrorsOfTheSaveAreToldAndTheComputerGoesInAsItWasEntered) {
-  BrokenWindow broken(Main);
+  cvbTAPI pager(Main, Main.Platform.Phones);
+  BrokenWindow broken(Main, pager);
   Add([&](frmLogEdit& form) {
     AddDiskAlarm(form);
     Main.CVMain = &broken;
