@@ -35,7 +35,6 @@ struct WithTargets : test::TestTargets, Form {
   explicit WithTargets(modMain& main) : Form(main, static_cast<test::TestTargets&>(*this)) {}
 };
 
-// From the form's construction to the picture of its window.
 // A form that makes calls, with a telephone of its own.
 struct Phone {
   explicit Phone(modMain& main) : Pager(main, main.Platform.Phones) {}
@@ -46,6 +45,7 @@ struct WithPhone : Phone, Form {
   explicit WithPhone(modMain& main) : Phone(main), Form(main, Pager) {}
 };
 
+// From the form's construction to the picture of its window.
 template <class Form>
 void OpenScreen(benchmark::State& state) {
   const BenchInstallation installation;

@@ -146,6 +146,9 @@ void TestIt(Script& script, const std::shared_ptr<Receiver>& receiver) {
 void MakeATable(Script& script) {
   script.On(Main, [] { Driver::Window(Main)->findChild<QAction*>("mnuDatabaseOracle")->trigger(); });
   script.Picture(Tables, "create-table");
+  script.On(Tables, [] { Driver::Click(Tables, "cmdDataODBCBrowse"); });
+  script.Picture("ConnectionDialog", "connection");
+  script.On("ConnectionDialog", [] { QTest::keyClick(Driver::Window("ConnectionDialog"), Qt::Key_Escape); });
   script.On(Tables, [] { Driver::Click(Tables, "cmdCancel"); });
 }
 
