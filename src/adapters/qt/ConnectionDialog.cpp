@@ -76,7 +76,7 @@ QLineEdit* ConnectionDialog::AddLine(QFormLayout& fields, const char* name, cons
 
 void ConnectionDialog::AddButtons() {
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-  test_ = buttons->addButton("&Test Connection", QDialogButtonBox::ActionRole);
+  test_ = buttons->addButton("&Test Connection", QDialogButtonBox::ResetRole);
   test_->setObjectName("test");
   ok_ = buttons->button(QDialogButtonBox::Ok);
   ok_->setObjectName("ok");
