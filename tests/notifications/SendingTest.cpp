@@ -102,6 +102,10 @@ TEST_F(SendingTest, EachWayIsTriedInTurnAndToldTruthfully) {
     EXPECT_EQ(c[4], Tested(c[0], c[1], c[2])) << c[0] << c[3];
     EXPECT_EQ(c[5], Sent.Calls) << c[0];
   }
+  Pager.Connect("555");
+  EXPECT_EQ("\nPhone call could not be placed!  The phone line may be in use or the modem may not be responding...\n",
+            Tested("2", "", ""))
+      << "one call at a time";
   Main.SaveSetting("DataModemIndex", "0");
   EXPECT_EQ("", Tested("2", "", "")) << "no modem, no call";
 }

@@ -36,6 +36,7 @@ TEST_F(OdbcScreensTest, EachSystemIsAskedInItsWay) {
     frmCreateTable tables(Main, Main.Platform.Targets);
     tables.Load();
     tables.InitForm(isOracle ? frmCreateTable::Kind::Oracle : frmCreateTable::Kind::SqlServer);
+    EXPECT_EQ("Create Corvane Table on " + c[0], tables.Caption);
     Host.OnPromptConnection([&](const ui::ConnectionPrompt& prompt) {
       EXPECT_EQ("", prompt.Test(connection));
       return connection;
