@@ -66,6 +66,9 @@ TEST_F(CustomNotificationsTest, InsertsWhereTheCaretLastWas) {
     const ui::TextBox& box = Form.txtBody.Highlighted ? Form.txtBody : Form.txtSubject;
     return box.Text + " " + std::to_string(box.SelStart);
   };
+  std::string offered;
+  for (const std::string& entry : Form.cmbPlaceholders.All()) offered += entry + "\n";
+  EXPECT_EQ(ReadTextFile(CORVANE_SOURCE_DIR "/tests/notifications/PlaceholderList.txt"), offered);
   Host.SelectOnly(Form.lvwCustomNotifications, 1);
   EXPECT_EQ("[Alarm Name][Log Type][Event Type][Date/Time][Source][Category][Event ID][User][Computer][Description]|%",
             Shown());
