@@ -1,9 +1,11 @@
 #include "notifications/TestMessages.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
 #include "platform/Conversions.h"
+#include "platform/SplitText.h"
 
 namespace corvane {
 namespace {
@@ -29,12 +31,8 @@ int OffsetOf(const TimeZone& zone) {
 }  // namespace
 
 bool IsIPAddressText(const std::string& host) {
-  int parts = 0;
-  for (std::size_t begin = 0, end = 0; end != host.npos; begin = end + 1, ++parts) {
-    end = host.find('.', begin);
-    if (!IsNumeric(host.substr(begin, end - begin))) return false;
-  }
-  return parts == 4;
+  const std::vector<std::string> parts = SplitText(host, '.');
+  return parts.size() == 4 && std::all_of(parts.begin(), parts.end(), IsNumeric);
 }
 
 // No sign stands before a zone to the east.

@@ -3,9 +3,10 @@
 #include <algorithm>
 #include <utility>
 
-#include "app/installation/Fields.h"
 #include "app/installation/InstallationError.h"
+#include "app/installation/WholeNumber.h"
 #include "platform/Conversions.h"
+#include "platform/SplitText.h"
 
 namespace corvane {
 namespace {
@@ -28,7 +29,7 @@ void BasicChoicesFile::Check(std::istream& text) {
 
 void BasicChoicesFile::CheckRow(const std::string& row) {
   rows_.insert(row);
-  const auto fields = SplitFields(row, '|');
+  const auto fields = SplitText(row, '|');
   if (fields.size() != 3) Fail("the row has " + std::to_string(fields.size()) + " fields where 3 belong");
   // A configuration remembers its rows by their texts, which its file gives back without blanks at the ends.
   if (fields[0].empty() || Trim(fields[0]) != fields[0]) Fail("'" + fields[0] + "' is no text of a row");
@@ -36,7 +37,7 @@ void BasicChoicesFile::CheckRow(const std::string& row) {
   const auto mask = WholeNumber(fields[2], 1, AllTypes);
   if (!mask) Fail("'" + fields[2] + "' is no number from 1 to " + std::to_string(AllTypes));
   std::set<std::string> seen;
-  for (const std::string& id : SplitFields(fields[1], ',')) {
+  for (const std::string& id : SplitText(fields[1], ',')) {
     if (!seen.insert(id).second) Fail("event ID " + id + " stands twice");
     CheckEventId(id, *mask);
   }

@@ -4,10 +4,11 @@
 #include <array>
 #include <utility>
 
-#include "app/installation/Fields.h"
 #include "app/installation/InstallationError.h"
+#include "app/installation/WholeNumber.h"
 #include "core/LogTypes.h"
 #include "platform/Conversions.h"
+#include "platform/SplitText.h"
 
 namespace corvane {
 namespace {
@@ -30,7 +31,7 @@ constexpr int Audits = 8 + 16;
 const std::array<std::string, 5> TypeNames{"Information", "Warning", "Error", "Failure Audit", "Success Audit"};
 
 std::vector<std::string> Split(std::string_view text, char separator) {
-  auto parts = SplitFields(text, separator);
+  auto parts = SplitText(text, separator);
   for (std::string& part : parts) part = Trim(part);
   return parts;
 }
